@@ -1,0 +1,1 @@
+// Placeholder: the command-line front end lands here.

@@ -1,0 +1,1 @@
+// Placeholder: the document reader and writer land here.

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessarondel {
+
+// UTF-8 at the edges, UTF-16 inside. Malformed UTF-8 becomes U+FFFD per bad
+// byte, so nothing is lost silently and nothing crashes.
+std::u16string ToUtf16(std::string_view utf8);
+std::string ToUtf8(std::u16string_view utf16);
+
+}  // namespace tessarondel

@@ -1,0 +1,1 @@
+// Placeholder: the window models land here.
