@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessarondel {
+
+// The engine's text rules: trimming removes blanks (code 32) only; tabs and
+// line ends stay. Case changes touch ASCII letters only, so no character is
+// ever split or turned into an ASCII letter (U+212A stays what it is).
+
+std::u16string_view TrimBlanks(std::u16string_view text);
+std::u16string AsciiLower(std::u16string_view text);
+std::u16string AsciiUpper(std::u16string_view text);
+
+constexpr char16_t AsciiLowerChar(char16_t c) { return (c >= u'A' && c <= u'Z') ? static_cast<char16_t>(c + 32) : c; }
+constexpr char16_t AsciiUpperChar(char16_t c) { return (c >= u'a' && c <= u'z') ? static_cast<char16_t>(c - 32) : c; }
+constexpr bool IsAsciiDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
+
+// ASCII-only text (all our number texts) between the two string types.
+std::u16string AsciiToU16(std::string_view text);
+
+}  // namespace tessarondel
