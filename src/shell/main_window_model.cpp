@@ -1,0 +1,178 @@
+// frmMain: start-up, options and panels, help, the Information and main menus.
+#include "shell/main_window_model.h"
+
+#include <cmath>
+
+#include "numbers/number_text.h"
+#include "numbers/primitives.h"
+#include "numbers/run_failure.h"
+#include "numbers/text_rules.h"
+
+namespace tessarondel {
+namespace {
+
+// A setting's numeric value by the text-to-number rule: no number gives 0.
+double SettingNumber(std::u16string_view text) {
+    try {
+        return LeadingNumber(text);
+    } catch (const std::runtime_error&) {
+        return 0.0;
+    }
+}
+
+bool SettingChecked(std::u16string_view text) { return Floor(SettingNumber(text)) != 0; }
+
+std::u16string FlagText(bool on) { return on ? u"1" : u"0"; }
+
+}  // namespace
+
+MainWindowModel::MainWindowModel(EngineState& engine, ShellPlatform platform, ShellEnvironment environment)
+    : engine_(engine),
+      platform_(platform),
+      environment_(std::move(environment)),
+      display_(engine),
+      variables_(engine, platform.Box, *this) {
+    tessarondel::ArrangePanels(layout_);
+}
+
+void MainWindowModel::Notify(MainWindowChange change) const {
+    if (listener_) listener_(change);
+}
+
+void MainWindowModel::Load(const FormInfoTexts& settings, ScreenSize screen) {
+    windowShownState_ = 1;
+    proxyDialogOpen_ = false;
+    InitAll();
+    windowLeft_ = settings.X != u"None" ? SettingNumber(settings.X) : (screen.Width - layout_.WindowWidth) / 2.0;
+    windowTop_ = settings.Y != u"None" ? SettingNumber(settings.Y) : (screen.Height - layout_.WindowHeight) / 2.0;
+    Notify(MainWindowChange::WindowPosition);
+    SetOption(OptionExpressionList, SettingChecked(settings.EL));
+    SetOption(OptionInputPanel, SettingChecked(settings.IP));
+    SetOption(OptionStayOnTop, SettingChecked(settings.SOT));
+    ClickQuickReferenceButton(SettingChecked(settings.QR) ? 1 : 0);
+    Notify(MainWindowChange::WindowShown);
+}
+
+void MainWindowModel::InitAll() {
+    engine_.ShowErrorBox = true;
+    engine_.ErrorBoxTitle = kErrorBoxTitle;
+    menus_ = initMenu();
+    SelectApproximate(0);  // initApproximateCom: "Off" before the first evaluation
+    expressions_.Clear();
+    ClearHistory();
+    results_.ClearResultList();
+    lastValue_ = 0.0;
+    engine_.ErrorBoxTitle = kErrorBoxTitle;
+    engine_.ShowErrorBox = false;
+}
+
+FormInfoTexts MainWindowModel::CurrentFormInfo() const {
+    return {std::u16string(TrimBlanks(NumberText(windowLeft_))),
+            std::u16string(TrimBlanks(NumberText(windowTop_))),
+            FlagText(Option(OptionExpressionList)),
+            FlagText(Option(OptionInputPanel)),
+            FlagText(quickRefShown_),
+            FlagText(Option(OptionStayOnTop))};
+}
+
+void MainWindowModel::SetWindowPosition(double left, double top) {
+    windowLeft_ = left;
+    windowTop_ = top;
+}
+
+void MainWindowModel::SetOption(int index, bool checked) {
+    bool& option = options_.at(static_cast<std::size_t>(index));
+    if (option == checked) return;
+    option = checked;
+    RunOptionHandler(index);
+}
+
+void MainWindowModel::RunOptionHandler(int index) {
+    switch (index) {
+        case OptionExpressionList:
+            layout_.ExpressionList.Visible = Option(index);
+            ArrangePanels();
+            break;
+        case OptionVariableList: ShowSideWindow(2, Option(index)); break;
+        case OptionFunctionManager: ShowSideWindow(3, Option(index)); break;
+        case OptionInputPanel:
+            layout_.InputPanel.Visible = Option(index);
+            ArrangePanels();
+            break;
+        default: Notify(MainWindowChange::StayOnTop); break;
+    }
+    Notify(MainWindowChange::Options);
+    Notify(MainWindowChange::FocusInputArea);
+}
+
+void MainWindowModel::ShowSideWindow(int mainMenuItem, bool shown) {
+    const auto item = static_cast<std::size_t>(mainMenuItem);
+    if (item < menus_.Main.size()) menus_.Main[item].Checked = shown;
+}
+
+void MainWindowModel::ArrangePanels() {
+    tessarondel::ArrangePanels(layout_);
+    Notify(MainWindowChange::Layout);
+}
+
+void MainWindowModel::ClickQuickReferenceButton(int index) {
+    quickRefShown_ = index != 0;
+    layout_.InputPanel.Height = quickRefShown_ ? PanelLayout::kInputPanelWithQuickReference
+                                               : PanelLayout::kInputPanelWithoutQuickReference;
+    Notify(MainWindowChange::QuickReferencePair);
+    ArrangePanels();
+    Notify(MainWindowChange::FocusInputArea);
+}
+
+void MainWindowModel::OpenProgramFile(std::u16string_view fileName, std::u16string_view missingMessage) {
+    const std::filesystem::path file = environment_.ProgramDirectory / std::filesystem::path(fileName);
+    std::error_code ignored;
+    if (std::filesystem::exists(file, ignored)) {
+        platform_.Opener.ShellOpen(file.u16string());
+    } else {
+        ShowNotice(platform_.Box, std::u16string(missingMessage) + file.u16string(), u"Information");
+    }
+}
+
+void MainWindowModel::ClickHelp() { OpenProgramFile(u"help.chm", u"Can not find the file "); }
+
+std::u16string MainWindowModel::HomePage() const { return environment_.Maker.WebServer + u"/tq/index.htm"; }
+
+void MainWindowModel::ClickLogo() { platform_.Opener.ShellOpen(HomePage()); }
+
+void MainWindowModel::ChooseInformation(int index) {
+    const MakerAddresses& maker = environment_.Maker;
+    switch (index) {
+        case 0: OpenProgramFile(u"ReadMe.txt", u"Can not find the Readme file "); break;
+        case 1: OpenProgramFile(u"ChangesLog.txt", u"Can not find the file "); break;
+        case 3:
+            platform_.Opener.ShellOpen(u"mailto:" + maker.SupportMailbox + u"?subject=Tessarondel Bug Report");
+            break;
+        case 4:
+            platform_.Opener.ShellOpen(u"mailto:" + maker.Mailbox + u"?subject=Suggest a feature for Tessarondel");
+            break;
+        case 6: platform_.Opener.ShellOpen(HomePage()); break;
+        case 7: Notify(MainWindowChange::CheckForUpdateRequested); break;
+        case 9: Notify(MainWindowChange::AboutRequested); break;
+        default: break;
+    }
+}
+
+void MainWindowModel::ChooseMainMenu(int index) {
+    switch (index) {
+        case 0: ToggleWindowShown(); break;
+        case 2: ClickOption(OptionVariableList); break;
+        case 3: ClickOption(OptionFunctionManager); break;
+        case 5: ClickOptions(); break;
+        case 6: Notify(MainWindowChange::AboutRequested); break;
+        case 8: ClickExit(); break;
+        default: break;
+    }
+}
+
+void MainWindowModel::ToggleWindowShown() {
+    windowShownState_ = (windowShownState_ + 1) % 2;
+    Notify(MainWindowChange::WindowShown);
+}
+
+}  // namespace tessarondel

@@ -1,1 +1,0 @@
-// Placeholder: the window models land here.

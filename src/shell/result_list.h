@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "shell/menu_item.h"
+
+namespace tessarondel {
+
+// The Result List pop-up: "Clear Result List", a separator, then one item per
+// evaluation, captioned "(n)" TAB result, with the result alone as its tag.
+class ResultList {
+public:
+    static constexpr std::size_t kFirstDynamicIndex = 2;
+
+    ResultList();
+
+    std::int32_t ResultListCount() const { return count_; }
+    const Menu& Items() const { return items_; }
+
+    void AddResultListItem(std::u16string_view text);
+    void ClearResultList();
+
+private:
+    std::int32_t count_ = 0;
+    Menu items_;
+};
+
+}  // namespace tessarondel
