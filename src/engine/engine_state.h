@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -62,8 +63,21 @@ public:
     }
     std::u16string_view Rest() const { return std::u16string_view(text_).substr(start_); }
     void Consume(std::size_t count) { start_ += count; }
+    // Removes blanks at both ends of the rest.
+    void TrimBlanks() {
+        while (start_ < text_.size() && text_[start_] == u' ') ++start_;
+        while (text_.size() > start_ && text_.back() == u' ') text_.pop_back();
+    }
     // The push-back of the assignment look-ahead: token, a blank, the old rest.
+    // The token was read from the consumed front, so it usually fits back there.
     void PushFront(std::u16string_view token) {
+        const std::size_t length = token.size() + 1;
+        if (start_ >= length && !Overlaps(token)) {
+            start_ -= length;
+            std::copy(token.begin(), token.end(), text_.begin() + static_cast<std::ptrdiff_t>(start_));
+            text_[start_ + token.size()] = u' ';
+            return;
+        }
         std::u16string joined(token);
         joined += u' ';
         joined.append(Rest());
@@ -71,6 +85,10 @@ public:
     }
 
 private:
+    bool Overlaps(std::u16string_view view) const {
+        return view.data() < text_.data() + text_.size() && text_.data() < view.data() + view.size();
+    }
+
     std::u16string text_;
     std::size_t start_ = 0;
 };

@@ -1,0 +1,140 @@
+#include "cli/cli_app.h"
+
+#include <charconv>
+#include <istream>
+#include <ostream>
+
+#include "cli/json_protocol.h"
+#include "engine/engine.h"
+#include "engine/text_codec.h"
+
+namespace tessarondel {
+
+namespace {
+
+constexpr const char* VersionText = "1.2.6688 Build 1228";
+
+constexpr const char* UsageText =
+    "Usage: tessarondel-cli [--round N] [EXPR...]\n"
+    "       tessarondel-cli --json\n"
+    "\n"
+    "Evaluates each EXPR in order in one engine and prints one result per line.\n"
+    "Without EXPR, reads one expression per line from standard input.\n"
+    "\n"
+    "  --round N   round every intermediate result to N places (0 to 22; -1 is off)\n"
+    "  --json      answer JSON Lines requests from standard input\n"
+    "  --help      show this help\n"
+    "  --version   show the version\n"
+    "  --          treat all further arguments as expressions\n"
+    "\n"
+    "Exit status: 0 when no expression failed, 1 when any failed, 2 for bad usage.\n";
+
+struct Options {
+    bool json = false;
+    bool help = false;
+    bool version = false;
+    int approximateBits = -1;
+    std::vector<std::string> expressions;
+};
+
+bool ParseInteger(const std::string& text, int& value) {
+    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
+    return parsed.ec == std::errc() && parsed.ptr == text.data() + text.size();
+}
+
+// Options first; "--" or the first argument that is no option starts the
+// expressions, so "-3+2" is an expression.
+std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::ostream& err) {
+    Options options;
+    std::size_t i = 0;
+    for (; i < args.size(); ++i) {
+        const std::string& arg = args[i];
+        if (arg == "--") {
+            ++i;
+            break;
+        }
+        if (arg.rfind("--", 0) != 0) break;
+        if (arg == "--json") {
+            options.json = true;
+        } else if (arg == "--help") {
+            options.help = true;
+        } else if (arg == "--version") {
+            options.version = true;
+        } else if (arg == "--round" && i + 1 < args.size() && ParseInteger(args[i + 1], options.approximateBits)) {
+            ++i;
+        } else {
+            err << "tessarondel-cli: bad option: " << arg << "\n" << UsageText;
+            return std::nullopt;
+        }
+    }
+    options.expressions.assign(args.begin() + static_cast<std::ptrdiff_t>(i), args.end());
+    if (options.json && !options.expressions.empty()) {
+        err << "tessarondel-cli: --json reads its requests from standard input\n" << UsageText;
+        return std::nullopt;
+    }
+    return options;
+}
+
+// Prints the result as the main window shows it; false when the evaluation failed.
+bool EvaluateAndPrint(EngineState& engine, const std::string& expression, std::ostream& out) {
+    const std::u16string result = EvaluateText(engine, ToUtf16(expression));
+    if (engine.ErrorFlag) {
+        out << "Error: " << ToUtf8(engine.ErrorText) << '\n';
+    } else {
+        out << ToUtf8(result) << '\n';
+    }
+    out.flush();
+    return !engine.ErrorFlag;
+}
+
+int RunExpressions(const Options& options, const LineReader& readLine, std::ostream& out) {
+    EngineState engine;
+    engine.ApproximateBits = options.approximateBits;
+    engine.ErrorBoxTitle = u"Tessarondel Error Information";
+    bool allGood = true;
+    if (!options.expressions.empty()) {
+        for (const auto& expression : options.expressions) allGood = EvaluateAndPrint(engine, expression, out) && allGood;
+    } else {
+        while (const auto line = readLine()) allGood = EvaluateAndPrint(engine, *line, out) && allGood;
+    }
+    return allGood ? CliAllGood : CliSomeFailed;
+}
+
+int RunJson(const LineReader& readLine, std::ostream& out) {
+    JsonSession session;
+    RequestTable table;
+    RegisterAllRequests(table);
+    while (const auto line = readLine()) {
+        if (line->find_first_not_of(" \t") == std::string::npos) continue;
+        out << HandleJsonLine(session, table, *line) << '\n';
+        out.flush();
+    }
+    return CliAllGood;
+}
+
+}  // namespace
+
+int RunCli(const std::vector<std::string>& args, const LineReader& readLine, std::ostream& out, std::ostream& err) {
+    const auto options = ParseOptions(args, err);
+    if (!options) return CliBadUsage;
+    if (options->help) {
+        out << UsageText;
+        return CliAllGood;
+    }
+    if (options->version) {
+        out << VersionText << '\n';
+        return CliAllGood;
+    }
+    return options->json ? RunJson(readLine, out) : RunExpressions(*options, readLine, out);
+}
+
+LineReader StreamLineReader(std::istream& in) {
+    return [&in]() -> std::optional<std::string> {
+        std::string line;
+        if (!std::getline(in, line)) return std::nullopt;
+        if (!line.empty() && line.back() == '\r') line.pop_back();  // a CR LF line end
+        return line;
+    };
+}
+
+}  // namespace tessarondel

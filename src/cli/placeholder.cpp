@@ -1,1 +1,0 @@
-// Placeholder: the command-line front end lands here.

@@ -1,0 +1,138 @@
+#include "engine/ladder.h"
+
+#include "engine/errors.h"
+#include "engine/operators.h"
+#include "engine/token_reader.h"
+#include "engine/variables.h"
+#include "numbers/base_conversion.h"
+#include "numbers/builtins.h"
+#include "numbers/number_text.h"
+#include "numbers/text_rules.h"
+
+namespace tessarondel {
+
+namespace {
+
+bool IsLogicalOperator(std::u16string_view t) {
+    return t == u"|" || t == u"&" || t == u"%!" || t == u"%~" || t == u"%>";
+}
+bool IsCompareOperator(std::u16string_view t) {
+    return t == u"==" || t == u">" || t == u"<" || t == u">=" || t == u"<=" || t == u"<>";
+}
+bool IsSumOperator(std::u16string_view t) { return t == u"+" || t == u"-"; }
+bool IsProductOperator(std::u16string_view t) { return t == u"*" || t == u"/" || t == u"%\\" || t == u"%%"; }
+bool IsPowerOperator(std::u16string_view t) { return t == u"^"; }
+
+// Leaves a nesting level on every way out, failures included.
+class DepthGuard {
+public:
+    explicit DepthGuard(int& depth) : depth_(depth) {
+        if (++depth_ > Ladder::MaxBracketDepth) {
+            --depth_;
+            throw RunFailure("brackets nested too deep");
+        }
+    }
+    ~DepthGuard() { --depth_; }
+    DepthGuard(const DepthGuard&) = delete;
+    DepthGuard& operator=(const DepthGuard&) = delete;
+
+private:
+    int& depth_;
+};
+
+}  // namespace
+
+// The value of a comma list is its last element; every element's 15-digit
+// text goes to CommaList for the function that may stand before the bracket.
+void Ladder::ParseList(double& value) {
+    double left = 0;
+    double right = 0;
+    ParseAssignment(value);
+    std::vector<std::u16string> texts{std::u16string(TrimBlanks(NumberText(value)))};
+    while (state_.CurrentToken == u",") {
+        left = value;
+        ReadToken(state_);
+        ParseAssignment(right);
+        ApplyOperator(state_, u",", left, right);
+        value = left;
+        texts.emplace_back(TrimBlanks(NumberText(value)));
+    }
+    state_.CommaList.Assign(std::move(texts));
+}
+
+void Ladder::ParseBinary(double& value, bool (*isOperator)(std::u16string_view), Level next) {
+    double left = 0;
+    double right = 0;
+    (this->*next)(value);
+    while (isOperator(state_.CurrentToken)) {
+        left = value;
+        const std::u16string op = state_.CurrentToken;
+        ReadToken(state_);
+        (this->*next)(right);
+        ApplyOperator(state_, op, left, right);
+        value = left;
+    }
+}
+
+void Ladder::ParseLogical(double& value) { ParseBinary(value, IsLogicalOperator, &Ladder::ParseCompare); }
+void Ladder::ParseCompare(double& value) { ParseBinary(value, IsCompareOperator, &Ladder::ParseSum); }
+void Ladder::ParseSum(double& value) { ParseBinary(value, IsSumOperator, &Ladder::ParseProduct); }
+void Ladder::ParseProduct(double& value) { ParseBinary(value, IsProductOperator, &Ladder::ParsePower); }
+void Ladder::ParsePower(double& value) { ParseBinary(value, IsPowerOperator, &Ladder::ParseUnary); }
+
+void Ladder::ParseUnary(double& value) {
+    int minus = 0;
+    while (state_.TokenKind == TokenOperator && (state_.CurrentToken == u"-" || state_.CurrentToken == u"+")) {
+        if (state_.CurrentToken == u"-") ++minus;
+        ReadToken(state_);
+    }
+    ParseCall(value);
+    if (minus % 2 == 1) value = -value;
+}
+
+void Ladder::ParseCall(double& value) {
+    ParseBracket(value);
+    if (state_.TokenKind != TokenFunction) return;
+    const std::u16string name = state_.CurrentToken;
+    ReadToken(state_);
+    ParseBracket(value);
+    CallBuiltin(name, value, state_.CommaList, state_.ApproximateBits, state_);
+}
+
+void Ladder::ParseBracket(double& value) {
+    if (state_.CurrentToken != u"(" || state_.TokenKind != TokenOperator) {
+        ParsePrimary(value);
+        return;
+    }
+    const DepthGuard depth(bracketDepth_);
+    double inner = value;
+    ReadToken(state_);
+    ParseList(inner);
+    value = inner;
+    if (state_.CurrentToken != u"," && state_.CurrentToken != u")") {
+        state_.ReportError(BracketsMismatch);
+        return;
+    }
+    ReadToken(state_);
+}
+
+void Ladder::ParsePrimary(double& value) {
+    RunWithFailureHandler(state_, [&] {
+        switch (state_.TokenKind) {
+            case TokenNumber:
+                value = TextToNumber(BaseLiteralToDecimal(state_.CurrentToken, state_));
+                ReadToken(state_);
+                break;
+            case TokenFunction:
+                break;  // the name and its bracket are ParseCall's
+            case TokenIdentifier:
+                value = VariableValue(state_, state_.CurrentToken);
+                ReadToken(state_);
+                break;
+            default:
+                state_.ReportError(SyntaxError);
+        }
+    });
+}
+
+}  // namespace tessarondel

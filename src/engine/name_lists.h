@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string_view>
+
+#include "engine/engine_state.h"
+
+namespace tessarondel {
+
+// The braced name lists. A name belongs to a list when "{name}" occurs in it
+// as a substring, exact comparison.
+inline constexpr std::u16string_view BuiltinFunctionList =
+    u"{round},{iif},{perm},{comb},{fac},{short},{mean},{cov},{std},{prod},{max},{min},{sum},{not},{log},"
+    u"{angtorad},{sqrt},{radtoang},{sh},{ch},{th},{arsh},{arch},{arth},{arcsin},{arccos},{arctan},{arccot},"
+    u"{sin},{cos},{tan},{cot},{abs},{exp},{sgn},{sqr},{int},{fix},{ln},{arcsec},{arccsc},{sec},{csc},{rnd}";
+inline constexpr std::u16string_view AliasList =
+    u"{permutation},{combination},{hsin},{hcos},{htan},{harcsin},{harccos},{harctan},{tg},{average},{product},"
+    u"{factorial},{ator},{rtoa}";
+inline constexpr std::u16string_view WordOperatorList = u"{and},{xor},{eqv},{mod},{div},{or},{imp}";
+inline constexpr std::u16string_view ConstantList = u"{true},{false},{e},{pi},{inf},{eps}";
+inline constexpr std::u16string_view DelimiterList =
+    u"{=},{,},{+},{-},{*},{/},{\\},{%},{^},{==},{>},{<},{>=},{<=},{<>},{(},{)},{&},{|},{!},{~}";
+inline constexpr std::u16string_view OperatorList =
+    u"{=},{,},{+},{-},{*},{/},{%\\},{%},{%%},{%>},{^},{==},{>},{<},{>=},{<=},{<>},{(},{)},{&},{|},{%!},{%~}";
+inline constexpr std::u16string_view BasePrefixList = u"{$h},{$o},{$b}";
+
+// Binary substring test.
+inline bool ContainsText(std::u16string_view needle, std::u16string_view haystack) {
+    return haystack.find(needle) != std::u16string_view::npos;
+}
+
+// "{name}" in `list`, without building the braced text.
+bool InBracedList(std::u16string_view name, std::u16string_view list);
+
+bool IsLetterChar(char16_t c);     // A-Z, a-z and _
+bool IsDigitChar(char16_t c);      // 0-9 and the point
+bool IsDelimiterChar(char16_t c);  // the delimiter list, tab, NUL, LF, CR; not the blank
+
+// Custom, built-in or alias name, as given (no trimming).
+bool IsFunctionName(const EngineState& state, std::u16string_view name);
+// A function name, a word operator or a constant.
+bool IsKnownName(const EngineState& state, std::u16string_view name);
+
+// Occurrences of `c` in `text`. A text over 32,767 characters overflows the
+// 16-bit count: error 6 and the count 0.
+int CountChar(EngineState& state, std::u16string_view text, char16_t c);
+
+}  // namespace tessarondel

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/engine_state.h"
+
+namespace tessarondel {
+
+// Rewrites a source (folded, without its note) into the token stream: lower
+// case, custom calls expanded, exponents, percent signs, word operators,
+// constants and aliases rewritten, every token checked. Returns the empty text
+// after an error that stops it; the caller tests ErrorFlag.
+std::u16string BuildTokenStream(EngineState& state, std::u16string_view source);
+
+// The passes of BuildTokenStream, in their order, for tests.
+std::u16string ReplacePercentSigns(std::u16string_view src);
+std::u16string ReplaceWordOperators(std::u16string_view src);
+// Checks and rewrites every token; false after an error that stops the build.
+bool RunTokenPass(EngineState& state, std::u16string& src);
+std::u16string InsertSignZeros(std::u16string_view src);
+
+}  // namespace tessarondel
