@@ -1,1 +1,0 @@
-// Placeholder: settings, start-up, single instance, tray state and version check land here.

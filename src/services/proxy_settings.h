@@ -1,0 +1,52 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "services/settings_store.h"
+#include "services/settings_table.h"
+
+namespace tessarondel {
+
+// How the transfer connects: the desktop's default connection or a named proxy.
+enum class AccessType : int { Default = 0, NamedProxy = 2 };
+
+// The settings of the one transfer object. A fresh object uses the default
+// connection, port 80 and a 60 s time-out, whatever the store holds.
+struct TransferSettings {
+    AccessType Access = AccessType::Default;
+    std::u16string Proxy;
+    std::u16string UserName;
+    std::u16string Password;
+    std::int16_t RemotePort = 80;
+    std::chrono::milliseconds TransferTimeout{60000};
+};
+
+// Rounds to the nearest whole number, ties to even; nullopt outside 16 bits.
+std::optional<std::int16_t> ToInt16HalfEven(double value);
+
+// Configures the transfer and stores the five Option keys. Gives up silently
+// at the first failure (a port outside 16 bits): what was set on the transfer
+// before it stays set, and nothing is stored. True when it ran to the end.
+bool ApplyProxySettings(TransferSettings& transfer, std::u16string_view state, std::u16string_view proxy,
+                        std::u16string_view port, std::u16string_view userName, std::u16string_view password,
+                        SettingsStore& store);
+
+// The main window as it is at exit, in twips and check states.
+struct WindowStateAtExit {
+    double Left = 0;
+    double Top = 0;
+    bool ExpressionList = true;
+    bool InputPanel = true;
+    bool QuickReference = true;
+    bool StayOnTop = false;
+};
+
+// Writes FormInfo in its order (and into the held texts), then Option through ApplyProxySettings.
+void SaveSettings(const WindowStateAtExit& window, HeldSettings& held, TransferSettings& transfer,
+                  SettingsStore& store);
+
+}  // namespace tessarondel
