@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <functional>
@@ -13,8 +14,15 @@ class ScriptedHttpServer {
 public:
     using Responder = std::function<QByteArray(const QByteArray& head)>;
 
-    explicit ScriptedHttpServer(Responder responder) : responder_(std::move(responder)) {
-        server_.listen(QHostAddress::LocalHost);
+    // lowPort: a port that fits 16 signed bits, as a proxy port must.
+    explicit ScriptedHttpServer(Responder responder, bool lowPort = false) : responder_(std::move(responder)) {
+        if (lowPort) {
+            for (quint16 port = 20000 + quint16(QCoreApplication::applicationPid() % 5000);
+                 !server_.listen(QHostAddress::LocalHost, port) && port < 32767; ++port) {
+            }
+        } else {
+            server_.listen(QHostAddress::LocalHost);
+        }
         QObject::connect(&server_, &QTcpServer::newConnection, [this] { Accept(); });
     }
 

@@ -103,7 +103,7 @@ TEST(ApplyProxySettings, FailedPortLeavesEarlierTransferStepsDone) {
 TEST(SaveSettings, WritesWindowStateThenNetworkSettings) {
     MemorySettingsStore store;
     HeldSettings held = DefaultSettings();
-    held.ProxyState = u"1";
+    held.ProxyState = std::u16string(u"1");  // GCC 12 misreads the char array assignment (-Wrestrict)
     TransferSettings transfer;
     SaveSettings({1500, -30, false, true, false, true}, held, transfer, store);
     EXPECT_EQ(store.WriteLog(),

@@ -108,7 +108,7 @@ QByteArray AuthenticatingProxy(const QByteArray& head) {
 
 TEST(CheckForUpdate, GoesThroughAProxyWithItsCredentials) {
     testing::Application();
-    ScriptedHttpServer proxy(AuthenticatingProxy);
+    ScriptedHttpServer proxy(AuthenticatingProxy, true);
     ScriptedMessageBox boxes({LatestNotice});
     testing::RecordingOpener opener;
     InternetTransfer transfer;
@@ -122,7 +122,7 @@ TEST(CheckForUpdate, GoesThroughAProxyWithItsCredentials) {
 
 TEST(CheckForUpdate, ProxyRefusingWrongCredentialsIsAConnectionError) {
     testing::Application();
-    ScriptedHttpServer proxy(AuthenticatingProxy);
+    ScriptedHttpServer proxy(AuthenticatingProxy, true);
     ScriptedMessageBox boxes({ConnectionError, UnknownError});
     testing::RecordingOpener opener;
     InternetTransfer transfer;
