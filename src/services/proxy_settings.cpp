@@ -4,6 +4,7 @@
 
 #include "numbers/number_text.h"
 #include "numbers/run_failure.h"
+#include "numbers/text_rules.h"
 
 namespace tessarondel {
 
@@ -36,25 +37,16 @@ bool ApplyProxySettings(TransferSettings& transfer, std::u16string_view state, s
     return true;
 }
 
-namespace {
+bool ApplyProxySettings(TransferSettings& transfer, const ProxySettingsTexts& texts, SettingsStore& store) {
+    return ApplyProxySettings(transfer, texts.State, texts.Proxy, texts.Port, texts.UserName, texts.Password, store);
+}
 
-std::u16string CheckText(bool checked) { return checked ? u"1" : u"0"; }
-
-}  // namespace
-
-void SaveSettings(const WindowStateAtExit& window, HeldSettings& held, TransferSettings& transfer,
-                  SettingsStore& store) {
-    held.X = TrimBlanks(NumberText(window.Left));
-    held.Y = TrimBlanks(NumberText(window.Top));
-    held.EL = CheckText(window.ExpressionList);
-    held.IP = CheckText(window.InputPanel);
-    held.QR = CheckText(window.QuickReference);
-    held.SOT = CheckText(window.StayOnTop);
+void SaveSettings(const FormInfoTexts& window, HeldSettings& held, TransferSettings& transfer, SettingsStore& store) {
+    held.Window = window;
     for (const auto& setting : SettingsTable) {
-        if (setting.Section == FormInfoSection) store.Write(setting.Section, setting.Key, held.*setting.Held);
+        if (setting.Section == FormInfoSection) store.Write(setting.Section, setting.Key, setting.Held(held));
     }
-    ApplyProxySettings(transfer, held.ProxyState, held.ProxyName, held.ProxyPort, held.ProxyUserName,
-                       held.ProxyPassword, store);
+    ApplyProxySettings(transfer, held.Network, store);
 }
 
 }  // namespace tessarondel

@@ -35,18 +35,10 @@ bool ApplyProxySettings(TransferSettings& transfer, std::u16string_view state, s
                         std::u16string_view port, std::u16string_view userName, std::u16string_view password,
                         SettingsStore& store);
 
-// The main window as it is at exit, in twips and check states.
-struct WindowStateAtExit {
-    double Left = 0;
-    double Top = 0;
-    bool ExpressionList = true;
-    bool InputPanel = true;
-    bool QuickReference = true;
-    bool StayOnTop = false;
-};
+// The same for the held texts, as the options dialog's OK passes them.
+bool ApplyProxySettings(TransferSettings& transfer, const ProxySettingsTexts& texts, SettingsStore& store);
 
 // Writes FormInfo in its order (and into the held texts), then Option through ApplyProxySettings.
-void SaveSettings(const WindowStateAtExit& window, HeldSettings& held, TransferSettings& transfer,
-                  SettingsStore& store);
+void SaveSettings(const FormInfoTexts& window, HeldSettings& held, TransferSettings& transfer, SettingsStore& store);
 
 }  // namespace tessarondel

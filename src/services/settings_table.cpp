@@ -1,25 +1,20 @@
 #include "services/settings_table.h"
 
-namespace tessarondel {
+#include "numbers/text_rules.h"
 
-std::u16string TrimBlanks(std::u16string_view text) {
-    const auto first = text.find_first_not_of(u' ');
-    if (first == std::u16string_view::npos) return {};
-    const auto last = text.find_last_not_of(u' ');
-    return std::u16string(text.substr(first, last - first + 1));
-}
+namespace tessarondel {
 
 HeldSettings DefaultSettings() {
     HeldSettings held;
-    for (const auto& setting : SettingsTable) held.*setting.Held = std::u16string(setting.Default);
+    for (const auto& setting : SettingsTable) setting.Held(held) = std::u16string(setting.Default);
     return held;
 }
 
 HeldSettings LoadSettings(const SettingsStore& store) {
     HeldSettings held;
     for (const auto& setting : SettingsTable) {
-        auto value = store.Read(setting.Section, setting.Key, setting.Default);
-        held.*setting.Held = setting.TrimmedOnRead ? TrimBlanks(value) : std::move(value);
+        const std::u16string value = store.Read(setting.Section, setting.Key, setting.Default);
+        setting.Held(held) = setting.TrimmedOnRead ? std::u16string(TrimBlanks(value)) : value;
     }
     return held;
 }

@@ -2,31 +2,15 @@
 
 namespace tessarondel {
 
-void TrayState::Load() {
-    windowShownState_ = 1;
-    proxyDialogOpen_ = false;
+TrayAction DecideTrayAction(TrayClick click, bool proxyDialogOpen) {
+    if (proxyDialogOpen) return TrayAction::None;
+    if (click == TrayClick::LeftPress) return TrayAction::Toggle;
+    if (click == TrayClick::RightRelease) return TrayAction::OpenMainMenu;
+    return TrayAction::None;
 }
 
-TrayAction TrayState::Toggle() {
-    windowShownState_ = (windowShownState_ + 1) % 2;
-    return windowShownState_ != 0 ? TrayAction::ShowWindow : TrayAction::HideWindow;
-}
-
-TrayAction TrayState::OnTrayClick(TrayClick click) {
-    if (proxyDialogOpen_) return TrayAction::None;
-    switch (click) {
-        case TrayClick::LeftPress:
-            return Toggle();
-        case TrayClick::RightRelease:
-            return TrayAction::OpenMainMenu;
-        default:
-            return TrayAction::None;
-    }
-}
-
-TrayAction TrayState::OnFrameClose(bool trayAvailable) {
-    if (!trayAvailable) return TrayAction::MinimiseWindow;
-    return Toggle();
+TrayAction DecideFrameCloseAction(bool trayAvailable) {
+    return trayAvailable ? TrayAction::Toggle : TrayAction::Minimise;
 }
 
 }  // namespace tessarondel

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "services/settings_table.h"
+#include "numbers/text_rules.h"
 #include "services/version_text.h"
 
 namespace tessarondel {
@@ -21,7 +21,7 @@ std::u16string GetInfFromInternet(InternetTransfer& transfer, MessageBox& messag
     const TransferResult result = transfer.OpenUrl(QString::fromStdU16String(address));
     switch (result.Failure) {
         case TransferFailure::None:
-            return TrimBlanks(result.Body.toStdU16String());
+            return std::u16string(TrimBlanks(result.Body.toStdU16String()));
         case TransferFailure::Connection:  // the transfer's error state
             messages.Show(ConnectionErrorText, u"Error", MessageButtons::Ok, MessageIcon::Critical);
             return {};

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "services/internet_transfer.h"
-#include "services/message_box.h"
+#include "shell/message_box.h"
 #include "shell/desktop_services.h"
 
 namespace tessarondel {

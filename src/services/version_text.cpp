@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "services/settings_table.h"
+#include "numbers/text_rules.h"
 
 namespace tessarondel {
 
 std::u16string CleanVersionText(std::u16string_view fetched) {
-    std::u16string text = TrimBlanks(fetched);
+    std::u16string text(TrimBlanks(fetched));
     std::erase(text, u'{');
     std::erase(text, u'}');
     return text;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "services/message_box.h"
+#include "shell/message_box.h"
 #include "shell/desktop_services.h"
 
 namespace tessarondel::testing {

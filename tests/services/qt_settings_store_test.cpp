@@ -24,7 +24,7 @@ TEST(QtSettingsStore, RoundTripsTextsAcrossInstancesAndKeepsTheFileOwnerOnly) {
     EXPECT_EQ(again.Read(u"Option", u"Password", u"?"), u"pa, ss=wörd ");
     EXPECT_EQ(again.Read(u"FormInfo", u"x", u"?"), u"None");
     EXPECT_EQ(again.Read(u"FormInfo", u"y", u"fallback"), u"fallback");
-    EXPECT_EQ(LoadSettings(again).ProxyPassword, u"pa, ss=wörd ");
+    EXPECT_EQ(LoadSettings(again).Network.Password, u"pa, ss=wörd ");
 }
 
 TEST(QtSettingsStore, KeepsSectionsApartAndKeysCaseSensitive) {

@@ -5,43 +5,33 @@
 namespace tessarondel {
 namespace {
 
-TEST(TrayState, LeftPressTogglesAndOtherClicksDoNothing) {
-    TrayState tray;
-    tray.Load();
-    EXPECT_EQ(tray.OnTrayClick(TrayClick::LeftPress), TrayAction::HideWindow);
-    EXPECT_EQ(tray.WindowShownState(), 0);
-    for (auto ignored : {TrayClick::LeftRelease, TrayClick::DoubleClick, TrayClick::RightPress}) {
-        EXPECT_EQ(tray.OnTrayClick(ignored), TrayAction::None);
-    }
-    EXPECT_EQ(tray.WindowShownState(), 0);
-    EXPECT_EQ(tray.OnTrayClick(TrayClick::LeftPress), TrayAction::ShowWindow);
-    EXPECT_EQ(tray.OnTrayClick(TrayClick::RightRelease), TrayAction::OpenMainMenu);
+struct TrayRow {
+    const char* name;
+    TrayClick click;
+    bool dialogOpen;
+    TrayAction action;
+};
+
+class TrayClicks : public ::testing::TestWithParam<TrayRow> {};
+
+TEST_P(TrayClicks, DecideWhatTheWindowDoes) {
+    EXPECT_EQ(DecideTrayAction(GetParam().click, GetParam().dialogOpen), GetParam().action);
 }
 
-TEST(TrayState, OpenOptionsDialogSwallowsEveryClick) {
-    TrayState tray;
-    tray.Load();
-    tray.SetProxyDialogOpen(true);
-    EXPECT_EQ(tray.OnTrayClick(TrayClick::LeftPress), TrayAction::None);
-    EXPECT_EQ(tray.OnTrayClick(TrayClick::RightRelease), TrayAction::None);
-    EXPECT_EQ(tray.WindowShownState(), 1);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Tray, TrayClicks,
+    ::testing::Values(TrayRow{"LeftPressToggles", TrayClick::LeftPress, false, TrayAction::Toggle},
+                      TrayRow{"LeftReleaseNothing", TrayClick::LeftRelease, false, TrayAction::None},
+                      TrayRow{"DoubleClickNothing", TrayClick::DoubleClick, false, TrayAction::None},
+                      TrayRow{"RightPressNothing", TrayClick::RightPress, false, TrayAction::None},
+                      TrayRow{"RightReleaseOpensMenu", TrayClick::RightRelease, false, TrayAction::OpenMainMenu},
+                      TrayRow{"DialogBlocksToggle", TrayClick::LeftPress, true, TrayAction::None},
+                      TrayRow{"DialogBlocksMenu", TrayClick::RightRelease, true, TrayAction::None}),
+    [](const auto& info) { return std::string(info.param.name); });
 
-TEST(TrayState, FrameCloseHidesToTrayOrMinimisesWithoutOne) {
-    TrayState tray;
-    tray.Load();
-    EXPECT_EQ(tray.OnFrameClose(false), TrayAction::MinimiseWindow);
-    EXPECT_EQ(tray.WindowShownState(), 1);
-    EXPECT_EQ(tray.OnFrameClose(true), TrayAction::HideWindow);
-    EXPECT_EQ(tray.OnFrameClose(true), TrayAction::ShowWindow) << "a close while hidden shows the window";
-}
-
-TEST(TrayState, LoadResetsTheDialogGuard) {
-    TrayState tray;
-    tray.SetProxyDialogOpen(true);
-    tray.Load();
-    EXPECT_FALSE(tray.ProxyDialogOpen());
-    EXPECT_EQ(tray.WindowShownState(), 1);
+TEST(Tray, FrameCloseHidesToTrayOrMinimisesWithoutOne) {
+    EXPECT_EQ(DecideFrameCloseAction(true), TrayAction::Toggle);
+    EXPECT_EQ(DecideFrameCloseAction(false), TrayAction::Minimise);
 }
 
 }  // namespace
