@@ -1,0 +1,145 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+#include "engine/engine_fixture.h"
+
+namespace tessarondel {
+namespace {
+
+using testing_engine::Evaluate;
+using testing_engine::EvaluationRow;
+
+class Classification : public testing::TestWithParam<EvaluationRow> {};
+TEST_P(Classification, GivesTheResultText) { testing_engine::ExpectRow(GetParam()); }
+
+const EvaluationRow kClassificationRows[] = {
+    {"EpsAloneIsZero", "eps", "0"},
+    {"BelowThresholdIsZero", "1e-20", "0"},
+    {"AboveThresholdStays", "9.9e-14", "0.000000000000099"},
+    {"InfConstant", "inf", "Inf"},
+    {"MinusInf", "0-inf", "-Inf"},
+    {"AboveTheLimit", "1.797693134862311e308", "Inf"},
+    {"SixteenDigitWhole", "2^50", "1.12589990684262E+15"},
+    {"Fraction", "1/30", "3.33333333333333E-02"},
+    {"NoteOnly", "'comment", "Tessarondel Note Line"},
+    {"CurlyApostropheNote", "\xE2\x80\x99" "comment", "Tessarondel Note Line"},
+    {"NoteBehindCode", "1+1 'two", "2"},
+    {"NoteGluedToDigit", "2*3'4", "6"},
+    {"NoteAcrossLines", "1+ 'x\r\n1", "Error", 0},
+    {"TwoLinesJoinedByOperator", "2+\r\n3", "5"},
+    {"TwoLinesWithoutOperator", "2\r\n3", "Error", 8},
+    {"FullWidthSum", "\xEF\xBC\x95\xEF\xBC\x8B\xEF\xBC\x93", "8"},
+    {"FullWidthBrackets", "\xEF\xBC\x88\xEF\xBC\x91\xEF\xBC\x89", "1"},
+    {"EmptyInput", "   ", "", 2},
+    {"IdeographicSpacesOnly", "\xE3\x80\x80\xE3\x80\x80", "", 2},
+    {"TabIsNoBlankForTheEmptyTest", "\t", "Error", 2},
+    {"OverflowedLiteral", "1e400", "Error", 6},
+    {"LastErrorNumberStands", "2.5.1e3", "Error", 8},
+    {"FirstOfTwoOperatorErrors", "1/0+2/0", "Error", 5},
+};
+INSTANTIATE_TEST_SUITE_P(Rows, Classification, testing::ValuesIn(kClassificationRows), testing_engine::RowName);
+
+TEST(Driver, EmptyInputKeepsTheLastAnswer) {
+    EngineState state = testing_engine::FreshEngine();
+    Evaluate(state, "7");
+    Evaluate(state, "  ");
+    EXPECT_EQ(state.LastAnswer, 7);
+    Evaluate(state, "1/0");
+    EXPECT_EQ(state.LastAnswer, 0);
+}
+
+TEST(Driver, LastAnswerIsClampedAndZeroed) {
+    EngineState state = testing_engine::FreshEngine();
+    Evaluate(state, "inf+1e292");
+    EXPECT_EQ(state.LastAnswer, 1.79769313486231e308);
+    Evaluate(state, "0-inf");
+    EXPECT_EQ(state.LastAnswer, -1.79769313486231e308);
+    Evaluate(state, "eps");
+    EXPECT_EQ(state.LastAnswer, 0);
+    Evaluate(state, "'note");
+    EXPECT_EQ(state.LastAnswer, 0);
+}
+
+TEST(Driver, ErrorNumberAndTextOutliveTheFlag) {
+    EngineState state = testing_engine::FreshEngine();
+    Evaluate(state, "1/0");
+    EXPECT_EQ(ToUtf8(state.ErrorText), "The parameters of the functions or operators are invalid!");
+    EXPECT_EQ(Evaluate(state, "1+1").result, "2");
+    EXPECT_FALSE(state.ErrorFlag);
+    EXPECT_EQ(state.ErrorNumber, 5);
+    EXPECT_EQ(Evaluate(state, "(0-1)^0.5").error, 99);
+    EXPECT_EQ(ToUtf8(state.ErrorText), "Unknown error!");
+}
+
+TEST(Driver, LeavesTheArgumentFoldedAndCutAtTheNote) {
+    EngineState state = testing_engine::FreshEngine();
+    std::u16string expression = u"\uFF11+1 'note";
+    EvaluateExpression(state, expression);
+    EXPECT_EQ(ToUtf8(expression), "1+1 ");
+    std::u16string noteOnly = u"\u2019note";
+    EvaluateExpression(state, noteOnly);
+    EXPECT_EQ(ToUtf8(noteOnly), "'note");
+}
+
+TEST(ErrorBox, ShowsTheFirstErrorOfAnEvaluationOnly) {
+    EngineState state = testing_engine::FreshEngine();
+    std::vector<std::pair<std::u16string, std::u16string>> boxes;
+    state.ShowMessageBox = [&](const std::u16string& text, const std::u16string& title) { boxes.emplace_back(text, title); };
+    state.ErrorBoxTitle = u"Tessarondel Error Information";
+    state.ShowErrorBox = true;
+    Evaluate(state, "1/0+2/0");
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(ToUtf8(boxes[0].first),
+              "ErrNum:5\r\nErrInformation:The parameters of the functions or operators are invalid!");
+    EXPECT_EQ(ToUtf8(boxes[0].second), "Tessarondel Error Information");
+    Evaluate(state, "2.5.1e3");
+    ASSERT_EQ(boxes.size(), 2u);
+    EXPECT_EQ(ToUtf8(boxes[1].first), "ErrNum:5\r\nErrInformation:The parameters of the functions or operators are invalid!");
+    EXPECT_EQ(state.ErrorNumber, 8);
+    state.ShowErrorBox = false;
+    Evaluate(state, "1/0");
+    EXPECT_EQ(boxes.size(), 2u);
+}
+
+TEST(ErrorMessages, CoverTheTable) {
+    EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(0))), "Syntax error in the expression!");
+    EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(7))), "Can not redefine the system constants!");
+    EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(8))), "The identifier's name is invalid!");
+    EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(12))), "Can not set value to functions!");
+    EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(99))), "Unknown error!");
+    for (int unused : {13, 50, 98}) EXPECT_TRUE(ErrorMessage(unused).empty());
+}
+
+TEST(ErrorMessages, NumbersOutsideTheTableFailTheCaller) {
+    EngineState state;
+    EXPECT_THROW(state.ReportError(100), RunFailure);
+    EXPECT_THROW(state.ReportError(-1), RunFailure);
+    EXPECT_FALSE(state.ErrorFlag);
+}
+
+std::string Nested(int depth) { return std::string(depth, '(') + "1" + std::string(depth, ')'); }
+
+TEST(DeepNesting, WorksWithinTheBound) {
+    EXPECT_EQ(testing_engine::EvaluateFresh(Nested(900)).result, "1");
+}
+
+TEST(DeepNesting, BeyondTheBoundEndsInTheDriversHandler) {
+    EngineState state = testing_engine::FreshEngine();
+    Evaluate(state, "42");
+    const auto outcome = Evaluate(state, Nested(16000));
+    EXPECT_EQ(outcome.result, "");
+    EXPECT_EQ(outcome.error, 99);
+    EXPECT_EQ(state.LastAnswer, 42);
+}
+
+TEST(DeepNesting, OverlongTextFailsInTheBracketCount) {
+    // Beyond 32,767 characters the bracket count overflows before the ladder runs.
+    const auto outcome = testing_engine::EvaluateFresh(std::string(100000, '('));
+    EXPECT_EQ(outcome.result, "Error");
+    EXPECT_EQ(outcome.error, 6);
+}
+
+}  // namespace
+}  // namespace tessarondel

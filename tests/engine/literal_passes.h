@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "engine/engine_state.h"
+
+namespace tessarondel::literal {
+
+// The rewriting passes exactly as they are told, with their restarts from the
+// first position, their whole-text replacements and their backward walks. The
+// engine does the same in linear time; the tests compare the two on generated
+// texts.
+std::u16string FoldSource(std::u16string text);
+std::u16string ScanExponents(EngineState& state, std::u16string src);
+std::u16string ReplaceWordOperators(std::u16string src);
+// Returns false after an error that stops the build.
+bool RunTokenPass(EngineState& state, std::u16string& src);
+
+}  // namespace tessarondel::literal

@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+#include "engine/engine_fixture.h"
+#include "engine/token_reader.h"
+
+namespace tessarondel {
+namespace {
+
+using Token = std::pair<std::string, int>;
+
+// Reads the whole stream; the reader's error number, or -1.
+std::vector<Token> ReadAll(EngineState& state, std::u16string_view stream, int& error) {
+    state.TokenStream.Assign(std::u16string(stream));
+    std::vector<Token> tokens;
+    for (int guard = 0; guard < 100; ++guard) {
+        ReadToken(state);
+        if (state.TokenKind == TokenNone) break;
+        tokens.emplace_back(ToUtf8(state.CurrentToken), state.TokenKind);
+    }
+    error = state.ErrorFlag ? state.ErrorNumber : -1;
+    return tokens;
+}
+
+struct ReaderRow {
+    const char* name;
+    const char16_t* stream;
+    std::vector<Token> tokens;
+    int error = -1;
+};
+
+void PrintTo(const ReaderRow& row, std::ostream* out) { *out << ToUtf8(row.stream); }
+
+class Reader : public testing::TestWithParam<ReaderRow> {};
+
+TEST_P(Reader, CutsTokensOffTheFront) {
+    const ReaderRow& row = GetParam();
+    EngineState state = testing_engine::FreshEngine();
+    int error = -1;
+    EXPECT_EQ(ReadAll(state, row.stream, error), row.tokens);
+    EXPECT_EQ(error, row.error);
+}
+
+const ReaderRow kReaderRows[] = {
+    {"TwoCharacterOperator", u"a == b", {{"a", 104}, {"==", 101}, {"b", 104}}},
+    {"TwoCharacterOperatorNeedsAFollower", u"a==", {{"a", 104}, {"=", 101}, {"=", 101}}},
+    {"StreamOperators", u"1%%2%\\3%!4", {{"1", 103}, {"%%", 101}, {"2", 103}, {"%\\", 101}, {"3", 103}, {"%!", 101}, {"4", 103}}},
+    {"FunctionName", u"sin(1)", {{"sin", 102}, {"(", 101}, {"1", 103}, {")", 101}}},
+    {"BlankMakesFunctionAVariable", u"sin (1)", {{"sin", 104}, {"(", 101}, {"1", 103}, {")", 101}}},
+    {"NumberRunsToDelimiter", u"12.5e3+1", {{"12.5e3", 103}, {"+", 101}, {"1", 103}}},
+    {"BaseLiteral", u"$HFF+1", {{"$HFF", 103}, {"+", 101}, {"1", 103}}},
+    {"TwoBaseLiterals", u"$hff$h10", {{"$hff", 103}, {"$h10", 103}}},
+    {"UnreadableNearTheEnd", u"7\\2", {{"7", 103}}, 3},
+    {"UnreadableEarlierEndsSilently", u"7\\22", {{"7", 103}}},
+    {"BangAtTheEnd", u"5!", {{"5", 103}}, 3},
+    {"BangFirstWithRoom", u"!555", {}},
+    {"DollarWithoutPrefix", u"$x12", {}},
+    {"LineFeedNearTheEnd", u"2+\n3", {{"2", 103}, {"+", 101}}, 3},
+    {"BlanksAroundAreTrimmed", u"   x   ", {{"x", 104}}},
+};
+INSTANTIATE_TEST_SUITE_P(Rows, Reader, testing::ValuesIn(kReaderRows),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(Reader, CreatesVariablesUnlessExpansionScans) {
+    EngineState state = testing_engine::FreshEngine();
+    int error = -1;
+    state.ExpansionScan = true;
+    ReadAll(state, u"x+y", error);
+    EXPECT_TRUE(state.VariableNames.empty());
+    state.ExpansionScan = false;
+    ReadAll(state, u"x+y+x", error);
+    EXPECT_EQ(ToUtf8(state.VariableNames), "{x}{y}");
+}
+
+TEST(Reader, CustomFunctionNamesAreFunctions) {
+    EngineState state = testing_engine::FreshEngine();
+    state.CustomFunctionNames = u"{hyp}";
+    int error = -1;
+    EXPECT_EQ(ReadAll(state, u"hyp", error), (std::vector<Token>{{"hyp", 102}}));
+}
+
+}  // namespace
+}  // namespace tessarondel

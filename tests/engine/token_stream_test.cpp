@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include "engine/engine_fixture.h"
+#include "engine/exponent_scan.h"
+#include "engine/name_lists.h"
+#include "engine/source_folding.h"
+#include "engine/token_stream.h"
+
+namespace tessarondel {
+namespace {
+
+struct StreamRow {
+    const char* name;
+    const char* source;
+    const char* stream;  // the token stream; "" after an error that stops the build
+    int error = -1;      // the error number left behind, -1 for none
+};
+
+void PrintTo(const StreamRow& row, std::ostream* out) { *out << row.source; }
+
+class TokenStreamRows : public testing::TestWithParam<StreamRow> {};
+
+TEST_P(TokenStreamRows, RewriteAndCheck) {
+    const StreamRow& row = GetParam();
+    EngineState state = testing_engine::FreshEngine();
+    const std::u16string stream = BuildTokenStream(state, ToUtf16(row.source));
+    EXPECT_EQ(ToUtf8(stream), row.stream);
+    EXPECT_EQ(state.ErrorFlag ? state.ErrorNumber : -1, row.error);
+}
+
+const StreamRow kStreamRows[] = {
+    // Lower case, word operators, constants, aliases.
+    {"WordOperatorsAndCase", "A>=1 AND b MOD 2", "a>=1 & b %% 2"},
+    {"SignPassAndConstants", "-pi/2+e", "0-3.14159265358979/2+2.71828182845905"},
+    {"ConstantsTogether", "pi*e", "3.14159265358979*2.71828182845905"},
+    {"AllWordOperators", "1xor2 eqv3imp4div5or6", "1%!2 %~3%>4%\\5|6"},
+    {"ExponentErrorLetsThePassesGoOn", "1xor2eqv3", "1%!2%~3", 5},
+    {"DigitsEndWords", "x1and2", "x1&2"},
+    {"TrailingWordOperator", "a1or", "a1|"},
+    {"UnderscoreJoinsAWord", "_and", "_and"},
+    {"WordInsideAWordStays", "sand", "sand"},
+    {"ModFollowedByDigit", "7 mod2", "7 %%2"},
+    {"AliasSwallowsItsBlanks", "tg (1)", "tan(1)"},
+    {"AliasesRewritten", "hsin(1)+ator(2)+product(3)", "sh(1)+angtorad(2)+prod(3)"},
+    {"TrueAndFalse", "true+false", "(0-1)+(0)"},
+    {"EpsAndInf", "eps+inf", "(9.88131291682493*(10^(0-14)))+(1.79769313486231*(10^308))"},
+    {"ComparedConstantPasses", "pi==3", "3.14159265358979==3"},
+    {"EqualsLastPasses", "pi=", "3.14159265358979="},
+    // Percent, exponents and signs.
+    {"Percent", "50%", "50*(0.01)"},
+    {"PercentBeforeNumber", "5%3", "", 0},
+    {"Exponent", "1.5e-3", "1.5*(10^-3)"},
+    {"ExponentInName", "x2e3", "x2*(10^3)"},
+    {"ExponentTakesBlanks", "1e5 + 3", "1*(10^5 )+ 3"},
+    {"DollarProtectsLaterE", "$h1e+2e3", "$h1e+2e3"},
+    {"SignsAtStartAndAfterBracket", "--3+(-3)", "0--3+(0-3)"},
+    {"BlankStopsSignPass", "( -3)", "( -3)"},
+    {"TabsAndCrLfBecomeBlanks", "1\t+\r\n2", "1 + 2"},
+    // Errors that stop the build.
+    {"ImpliedMultiplication", "(1)(2)", "", 0},
+    {"ImpliedMultiplicationWithBlank", "(1) (2)", "", 0},
+    {"NumberBeforeBracket", "2(3)", "", 0},
+    {"ConstantBeforeBracket", "pi(2)", "", 0},
+    {"VariableBeforeBracket", "x(2)", "", 0},
+    {"UnknownFunction", "foo(2)", "", 0},
+    {"TokenBehindBracket", ")1(", "", 0},
+    {"FunctionBehindBracket", "(2)sin(3)", "", 0},
+    {"NameBehindBracket", "(2)3", "", 0},
+    {"BlankInsideToken", "a b", "", 8},
+    {"BlankBetweenNumbers", "2 3", "", 8},
+    {"PointInName", "a.b", "", 8},
+    {"TwoPoints", "1.2.3", "", 8},
+    {"UnderscoreOnly", "_", "", 8},
+    {"DigitUnderscore", "1_", "", 8},
+    {"OtherCharacter", "a#", "", 8},
+    {"NonAsciiLetter", "\xC3\xA9", "", 8},
+    {"KelvinSignIsNoLetter", "\xE2\x84\xAA", "", 8},
+    {"DigitThenLetters", "2x", "", 4},
+    {"DigitThenFunction", "2sin", "", 4},
+    {"DigitThenFunctionCall", "2sin(1)", "", 0},
+    {"AssignToConstant", "pi=3", "", 7},
+    {"AssignToConstantWithBlank", "eps =1", "", 7},
+    {"AssignToFunction", "sin=3", "", 12},
+    {"AssignToAlias", "tg=3", "", 12},
+    {"AssignToWordOperatorWord", "x=3", "x=3"},
+    {"BracketCount", "((1)", "", 1},
+    {"CountNotMatch", "3)+(4", "3)+(4"},
+    // Errors that let the passes go on: the last number stands.
+    {"ExponentThenName", "2.5.1e3", "", 8},
+    {"ExponentBlank", "1e 5", "", 8},
+    {"ExponentPoint", "1e2.5", "", 8},
+    {"ExponentThenUndefined", "3else", "", 4},
+    {"BadHexDigitsStayInTheStream", "$hff$h10", "$hff$h10", 0},
+    {"BadPrefix", "a$", "", 8},
+    {"EmptyTextIsFine", "", ""},
+};
+INSTANTIATE_TEST_SUITE_P(Rows, TokenStreamRows, testing::ValuesIn(kStreamRows),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(ExponentScan, StopsAtTheFirstBadLiteralWithEarlierRewritesKept) {
+    EngineState state;
+    std::u16string src = u" 1e2+3e+x ";
+    ScanExponents(state, src);
+    EXPECT_EQ(ToUtf8(src), "1*(10^2)+3*(10^+)x");
+    src = u"1e2+.e5+1e3";
+    ScanExponents(state, src);
+    EXPECT_EQ(ToUtf8(src), "1*(10^2)+.e5+1e3");
+    EXPECT_EQ(state.ErrorNumber, 5);
+}
+
+TEST(ExponentScan, PassesOverWordsAndLastPlaceE) {
+    EngineState state;
+    for (const char* text : {"sec", "exp(1)", "e", "2e", "$h1e5", "x=e"}) {
+        std::u16string src = ToUtf16(text);
+        ScanExponents(state, src);
+        EXPECT_EQ(ToUtf8(src), text);
+    }
+    EXPECT_FALSE(state.ErrorFlag);
+}
+
+TEST(FoldSource, FoldsFullWidthFormsAndQuotes) {
+    std::u16string text = u"\uFF21\uFF5A\uFF10\uFF19\uFF08\uFF09\u3000\u2019\u201C\u3002\uFF3F\u00E9";
+    FoldSource(text);
+    EXPECT_EQ(text, u"Az09() '\"._\u00E9");
+}
+
+TEST(CountChar, OverLimitReportsOverflowAndCountsNothing) {
+    EngineState state;
+    EXPECT_EQ(CountChar(state, std::u16string(32767, u'('), u'('), 32767);
+    EXPECT_FALSE(state.ErrorFlag);
+    EXPECT_EQ(CountChar(state, std::u16string(32768, u'x'), u'('), 0);
+    EXPECT_EQ(state.ErrorNumber, 6);
+}
+
+TEST(CharacterClasses, FollowTheirCodes) {
+    EXPECT_TRUE(IsLetterChar(u'_'));
+    EXPECT_FALSE(IsLetterChar(u'1'));
+    EXPECT_TRUE(IsDigitChar(u'.'));
+    for (const char16_t c : std::u16string(u"=,+-*/\\%^><()&|!~\t\n\r")) EXPECT_TRUE(IsDelimiterChar(c)) << char(c);
+    EXPECT_TRUE(IsDelimiterChar(u'\0'));
+    for (const char16_t c : std::u16string(u" $.'{a1")) EXPECT_FALSE(IsDelimiterChar(c)) << char(c);
+}
+
+TEST(NameLists, MembershipIsByBracedSubstring) {
+    EngineState state;
+    EXPECT_TRUE(IsFunctionName(state, u"arcsin"));
+    EXPECT_TRUE(IsFunctionName(state, u"tg"));
+    EXPECT_FALSE(IsFunctionName(state, u"sin "));
+    EXPECT_FALSE(IsFunctionName(state, u"arc"));
+    EXPECT_TRUE(IsKnownName(state, u"eps"));
+    EXPECT_TRUE(IsKnownName(state, u"imp"));
+    state.CustomFunctionNames = u"{area}";
+    EXPECT_TRUE(IsFunctionName(state, u"area"));
+    EXPECT_FALSE(IsFunctionName(state, u"are"));
+}
+
+}  // namespace
+}  // namespace tessarondel

@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include "engine/engine_fixture.h"
+#include "engine/variables.h"
+
+namespace tessarondel {
+namespace {
+
+using Vars = std::vector<std::pair<std::string, std::string>>;
+using testing_engine::Evaluate;
+using testing_engine::Variables;
+
+struct AssignmentRow {
+    const char* name;
+    std::vector<const char*> expressions;
+    const char* lastResult;
+    int lastError;
+    Vars variables;
+};
+
+void PrintTo(const AssignmentRow& row, std::ostream* out) { *out << row.name; }
+
+class Assignment : public testing::TestWithParam<AssignmentRow> {};
+
+TEST_P(Assignment, LeavesTheseVariables) {
+    const AssignmentRow& row = GetParam();
+    EngineState state = testing_engine::FreshEngine();
+    testing_engine::Outcome outcome;
+    for (const char* expression : row.expressions) outcome = Evaluate(state, expression);
+    EXPECT_EQ(outcome.result, row.lastResult);
+    EXPECT_EQ(outcome.error, row.lastError);
+    EXPECT_EQ(Variables(state), row.variables);
+}
+
+const AssignmentRow kAssignmentRows[] = {
+    {"ReadingCreates", {"x"}, "0", -1, {{"x", "0"}}},
+    {"NamesAreLowerCased", {"X=2", "x+1"}, "3", -1, {{"x", "2"}}},
+    {"ValueTextHasNoLeadingZero", {"x=0.5"}, "0.5", -1, {{"x", ".5"}}},
+    {"NegativeValueText", {"n=0-1/3"}, "-0.333333333333333", -1, {{"n", "-.333333333333333"}}},
+    {"NoChainOfAssignments", {"a=b=3"}, "0", -1, {{"a", "0"}, {"b", "0"}}},
+    {"BracketAllowsNestedAssignment", {"a=(b=3)"}, "3", -1, {{"a", "3"}, {"b", "3"}}},
+    {"ComparisonDoesNotAssign", {"x==2"}, "0", -1, {{"x", "0"}}},
+    {"OldValueReadFirst", {"x=1", "x=x+1"}, "2", -1, {{"x", "2"}}},
+    {"StoredDespiteError", {"x=1/0"}, "Error", 5, {{"x", "1"}}},
+    {"CreatedBeforeError", {"y+1/0"}, "Error", 5, {{"y", "0"}}},
+    {"TinyValueKept", {"a=1e-20"}, "0", -1, {{"a", "1E-20"}}},
+    {"AssignNothing", {"x="}, "Error", 0, {{"x", "0"}}},
+    {"AssignedTwice", {"x=(y=2)+(y=y+1)"}, "5", -1, {{"x", "5"}, {"y", "3"}}},
+    {"BuildErrorCreatesNothing", {"a b2"}, "Error", 8, {}},
+    {"UnclosedBracketStillStores", {"x=(1!2)+5"}, "Error", 1, {{"x", "1"}}},
+    {"BlankNameAfterFunction", {"sin (1)"}, "0", -1, {{"sin", "0"}}},
+    {"ValidNames", {"a1=3", "x_1=2", "_a=1"}, "1", -1, {{"a1", "3"}, {"x_1", "2"}, {"_a", "1"}}},
+    {"NoVariablesFromBuildErrors", {"foo(2)"}, "Error", 0, {}},
+};
+INSTANTIATE_TEST_SUITE_P(Rows, Assignment, testing::ValuesIn(kAssignmentRows),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(ClearVariables, EmptiesTheTableAndRestartsAtSlotOne) {
+    EngineState state = testing_engine::FreshEngine();
+    Evaluate(state, "a=1,b=2");
+    ClearVariables(state);
+    std::vector<VariableRecord> records{{u"keep", u"me"}};
+    EXPECT_EQ(GetVariableSnapshot(state, records), 0);
+    EXPECT_EQ(records.size(), 1u);  // left alone
+    Evaluate(state, "c=5");
+    EXPECT_EQ(VariableIndex(state, u"c"), 1);
+    EXPECT_EQ(Variables(state), (Vars{{"c", "5"}}));
+}
+
+TEST(VariableIndex, CountsClosingBracesInFront) {
+    EngineState state = testing_engine::FreshEngine();
+    Evaluate(state, "x+rate+y");
+    EXPECT_EQ(VariableIndex(state, u" rate "), 2);
+    EXPECT_EQ(VariableIndex(state, u"y"), 3);
+    EXPECT_EQ(VariableIndex(state, u"missing"), 1);
+    EXPECT_TRUE(VariableExists(state, u" RATE "));
+}
+
+TEST(VariableListing, KeepsTheLeadingBlank) {
+    EngineState state = testing_engine::FreshEngine();
+    Evaluate(state, "a=0.5,b=0-2");
+    EXPECT_EQ(ToUtf8(state.VariableListing), "a\t=\t .5\r\nb\t=\t-2\r\n");
+}
+
+}  // namespace
+}  // namespace tessarondel
