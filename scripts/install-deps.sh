@@ -12,13 +12,23 @@ packages=(
   clang libclang-rt-dev              # libFuzzer and the sanitizer runs
   xvfb xdotool x11-utils             # the end-to-end test on a virtual display
   dbus-x11 at-spi2-core python3-pyatspi
+  locales                            # a comma-decimal locale proves number texts ignore locales
 )
+
+ensure_test_locale() {
+  locale -a 2>/dev/null | grep -qi '^de_DE\.utf-\?8$' && return 0
+  command -v locale-gen >/dev/null || return 0
+  local run=()
+  [ "$(id -u)" -ne 0 ] && run=(sudo)
+  "${run[@]}" sed -i 's/^# *de_DE.UTF-8 UTF-8/de_DE.UTF-8 UTF-8/' /etc/locale.gen
+  "${run[@]}" locale-gen >/dev/null || true
+}
 
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
 done
-[ ${#missing[@]} -eq 0 ] && exit 0
+if [ ${#missing[@]} -eq 0 ]; then ensure_test_locale; exit 0; fi
 
 echo "Installing: ${missing[*]}"
 sudo_cmd=()
@@ -26,3 +36,4 @@ sudo_cmd=()
 export DEBIAN_FRONTEND=noninteractive
 "${sudo_cmd[@]}" apt-get update -qq
 "${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+ensure_test_locale
