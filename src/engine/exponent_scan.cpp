@@ -93,6 +93,10 @@ private:
 void ScanExponents(EngineState& state, std::u16string& src) {
     RunIgnoringFailures([&] {
         std::u16string text = AsciiLower(TrimBlanks(src));
+        if (text.find(u'e') == std::u16string::npos) {
+            src = std::move(text);
+            return;
+        }
         src = text;  // a failure below leaves the trimmed text
         src = ExponentScan(state, std::move(text)).Run();
     });

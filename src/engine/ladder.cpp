@@ -1,6 +1,7 @@
 #include "engine/ladder.h"
 
 #include "engine/errors.h"
+#include "engine/name_lists.h"
 #include "engine/operators.h"
 #include "engine/token_reader.h"
 #include "engine/variables.h"
@@ -48,16 +49,26 @@ void Ladder::ParseList(double& value) {
     double left = 0;
     double right = 0;
     ParseAssignment(value);
-    std::vector<std::u16string> texts{std::u16string(TrimBlanks(NumberText(value)))};
+    std::vector<double> values{value};
     while (state_.CurrentToken == u",") {
         left = value;
         ReadToken(state_);
         ParseAssignment(right);
         ApplyOperator(state_, u",", left, right);
         value = left;
-        texts.emplace_back(TrimBlanks(NumberText(value)));
+        values.push_back(value);
     }
+    closedList_ = std::move(values);
+    listPending_ = true;
+}
+
+void Ladder::FlushCommaList() {
+    if (!listPending_) return;
+    std::vector<std::u16string> texts;
+    texts.reserve(closedList_.size());
+    for (const double value : closedList_) texts.emplace_back(TrimBlanks(NumberText(value)));
     state_.CommaList.Assign(std::move(texts));
+    listPending_ = false;
 }
 
 void Ladder::ParseBinary(double& value, bool (*isOperator)(std::u16string_view), Level next) {
@@ -96,6 +107,7 @@ void Ladder::ParseCall(double& value) {
     const std::u16string name = state_.CurrentToken;
     ReadToken(state_);
     ParseBracket(value);
+    FlushCommaList();
     CallBuiltin(name, value, state_.CommaList, state_.ApproximateBits, state_);
 }
 
@@ -120,7 +132,9 @@ void Ladder::ParsePrimary(double& value) {
     RunWithFailureHandler(state_, [&] {
         switch (state_.TokenKind) {
             case TokenNumber:
-                value = TextToNumber(BaseLiteralToDecimal(state_.CurrentToken, state_));
+                value = ContainsText(u"$", state_.CurrentToken)
+                            ? TextToNumber(BaseLiteralToDecimal(state_.CurrentToken, state_))
+                            : TextToNumber(state_.CurrentToken);  // the literal conversion keeps such a token
                 ReadToken(state_);
                 break;
             case TokenFunction:

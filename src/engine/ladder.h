@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "engine/engine_state.h"
 
@@ -12,6 +13,10 @@ namespace tessarondel {
 class Ladder {
 public:
     explicit Ladder(EngineState& state) : state_(state) {}
+    // The comma list that closed last reaches CommaList at the latest here.
+    ~Ladder() { FlushCommaList(); }
+    Ladder(const Ladder&) = delete;
+    Ladder& operator=(const Ladder&) = delete;
 
     void ParseList(double& value);        // ,
     void ParseAssignment(double& value);  // =
@@ -34,8 +39,15 @@ private:
     // The shape of the binary levels: operands from `next`, left-associative.
     void ParseBinary(double& value, bool (*isOperator)(std::u16string_view), Level next);
 
+    // CommaList holds 15-digit texts, but only a built-in call reads it before the
+    // next list closes; so the values of the list that closed last are kept and
+    // turned into texts only when a built-in is called or the ladder is done.
+    void FlushCommaList();
+
     EngineState& state_;
     int bracketDepth_ = 0;
+    std::vector<double> closedList_;
+    bool listPending_ = false;
 };
 
 }  // namespace tessarondel

@@ -1,6 +1,8 @@
 #include "engine/name_lists.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 namespace tessarondel {
 
@@ -9,7 +11,82 @@ namespace {
 constexpr std::size_t CountCharLimit = 32767;
 constexpr int OverflowError = 6;
 
+bool HasListPunctuation(std::u16string_view name) {
+    for (const char16_t c : name) {
+        if (c == u'{' || c == u'}' || c == u',') return true;
+    }
+    return false;
+}
+
+// The entries of a constant braced list. For a name without braces and
+// commas, "{name}" occurs in the list exactly when the name is an entry: every
+// "{" opens an entry and the first "}" behind it closes that entry. Other
+// names take the substring search.
+class BracedNameSet {
+public:
+    explicit BracedNameSet(std::u16string_view list) : list_(list) {
+        for (std::size_t open = list.find(u'{'); open != std::u16string_view::npos; open = list.find(u'{', open + 1)) {
+            const std::size_t close = list.find(u'}', open);
+            const std::u16string_view entry = list.substr(open + 1, close - open - 1);
+            byLength_[std::min(entry.size(), MaxLength)].push_back(entry);
+        }
+    }
+
+    bool Contains(std::u16string_view name) const {
+        if (name.size() >= MaxLength || HasListPunctuation(name)) return InBracedList(name, list_);
+        for (const std::u16string_view entry : byLength_[name.size()]) {
+            if (entry[0] == name[0] && entry == name) return true;
+        }
+        return false;
+    }
+
+private:
+    static constexpr std::size_t MaxLength = 16;  // longer entries live in the last bucket
+    std::u16string_view list_;
+    std::array<std::vector<std::u16string_view>, MaxLength + 1> byLength_;
+};
+
+const BracedNameSet& BuiltinFunctions() {
+    static const BracedNameSet set(BuiltinFunctionList);
+    return set;
+}
+const BracedNameSet& Aliases() {
+    static const BracedNameSet set(AliasList);
+    return set;
+}
+const BracedNameSet& WordOperators() {
+    static const BracedNameSet set(WordOperatorList);
+    return set;
+}
+const BracedNameSet& Constants() {
+    static const BracedNameSet set(ConstantList);
+    return set;
+}
 }  // namespace
+
+// The reader's operators: one or two characters, none of them a brace, so the
+// list's entries are exactly these.
+bool IsOperatorText(std::u16string_view text) {
+    if (text.size() == 1) {
+        switch (text[0]) {
+            case u'=': case u',': case u'+': case u'-': case u'*': case u'/': case u'%': case u'^':
+            case u'>': case u'<': case u'(': case u')': case u'&': case u'|':
+                return true;
+            default:
+                return false;
+        }
+    }
+    if (text.size() != 2) return InBracedList(text, OperatorList);
+    const char16_t a = text[0];
+    const char16_t b = text[1];
+    if (a == u'%') return b == u'\\' || b == u'%' || b == u'>' || b == u'!' || b == u'~';
+    if (a == u'=') return b == u'=';
+    if (a == u'>') return b == u'=';
+    if (a == u'<') return b == u'=' || b == u'>';
+    return false;
+}
+
+bool IsConstantName(std::u16string_view name) { return Constants().Contains(name); }
 
 bool InBracedList(std::u16string_view name, std::u16string_view list) {
     if (name.empty()) return ContainsText(u"{}", list);
@@ -36,12 +113,12 @@ bool IsDelimiterChar(char16_t c) {
 }
 
 bool IsFunctionName(const EngineState& state, std::u16string_view name) {
-    return InBracedList(name, state.CustomFunctionNames) || InBracedList(name, BuiltinFunctionList) ||
-           InBracedList(name, AliasList);
+    return BuiltinFunctions().Contains(name) || Aliases().Contains(name) ||
+           (!state.CustomFunctionNames.empty() && InBracedList(name, state.CustomFunctionNames));
 }
 
 bool IsKnownName(const EngineState& state, std::u16string_view name) {
-    return IsFunctionName(state, name) || InBracedList(name, WordOperatorList) || InBracedList(name, ConstantList);
+    return IsFunctionName(state, name) || WordOperators().Contains(name) || Constants().Contains(name);
 }
 
 int CountChar(EngineState& state, std::u16string_view text, char16_t c) {

@@ -31,6 +31,10 @@ inline bool ContainsText(std::u16string_view needle, std::u16string_view haystac
 // "{name}" in `list`, without building the braced text.
 bool InBracedList(std::u16string_view name, std::u16string_view list);
 
+// Membership in the operator list of the reader and in the constant list.
+bool IsOperatorText(std::u16string_view text);
+bool IsConstantName(std::u16string_view name);
+
 bool IsLetterChar(char16_t c);     // A-Z, a-z and _
 bool IsDigitChar(char16_t c);      // 0-9 and the point
 bool IsDelimiterChar(char16_t c);  // the delimiter list, tab, NUL, LF, CR; not the blank

@@ -29,12 +29,16 @@ public:
     char16_t Last() const { return ahead_.empty() ? done_.back() : ahead_.front(); }
 
     std::u16string AheadText(std::size_t count) const {
-        return std::u16string(ahead_.rbegin(), ahead_.rbegin() + static_cast<std::ptrdiff_t>(count));
+        std::u16string text(count, u' ');
+        for (std::size_t i = 0; i < count; ++i) text[i] = Ahead(i);
+        return text;
     }
 
     void Advance(std::size_t count) {
-        done_.append(ahead_.rbegin(), ahead_.rbegin() + static_cast<std::ptrdiff_t>(count));
-        ahead_.resize(ahead_.size() - count);
+        for (std::size_t i = 0; i < count; ++i) {
+            done_.push_back(ahead_.back());
+            ahead_.pop_back();
+        }
     }
 
     // Replaces the next `count` unread characters by `replacement`, which is

@@ -80,8 +80,8 @@ bool IsValidName(std::u16string_view t) {
 }
 
 TokenCheck CheckToken(EngineState& state, const TokenContext& context, std::u16string_view t) {
-    if (!t.empty() && IsKnownName(state, t) && context.AssignsAtEnd()) {
-        return Stop(state, InBracedList(t, ConstantList) ? ConstantAssignment : FunctionAssignment);
+    if (!t.empty() && context.AssignsAtEnd() && IsKnownName(state, t)) {
+        return Stop(state, IsConstantName(t) ? ConstantAssignment : FunctionAssignment);
     }
     if (!t.empty() && !IsFunctionName(state, t)) {
         const bool bracketAhead = context.Next() == u'(';
@@ -91,7 +91,8 @@ TokenCheck CheckToken(EngineState& state, const TokenContext& context, std::u16s
     }
     if (t.find(u' ') != std::u16string_view::npos) return Stop(state, InvalidName);
     if (t.empty()) return {};
-    if (IsNumericText(BaseLiteralToDecimal(t, state))) return {};
+    const bool numeric = ContainsText(u"$", t) ? IsNumericText(BaseLiteralToDecimal(t, state)) : IsNumericText(t);
+    if (numeric) return {};
     if (!IsValidName(t)) return Stop(state, InvalidName);
     for (const Replacement& replacement : Replacements) {
         if (t == replacement.name) return {Verdict::Replace, replacement.text};

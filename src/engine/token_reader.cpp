@@ -9,8 +9,6 @@ namespace tessarondel {
 
 namespace {
 
-bool IsOperatorText(std::u16string_view text) { return InBracedList(text, OperatorList); }
-
 // Characters up to the first delimiter, blanks included.
 std::size_t NameLength(std::u16string_view rest) {
     std::size_t n = 0;
@@ -25,7 +23,7 @@ std::size_t BaseLiteralLength(std::u16string_view rest) {
     return n;
 }
 
-void ReadTokenUnguarded(EngineState& state, std::u16string& token) {
+void ReadTokenUnguarded(EngineState& state, std::u16string_view& token) {
     state.TokenStream.TrimBlanks();
     const std::u16string_view rest = state.TokenStream.Rest();
     if (rest.empty()) return;
@@ -46,8 +44,8 @@ void ReadTokenUnguarded(EngineState& state, std::u16string& token) {
     } else {
         return;  // unreadable: looks like the end of the stream
     }
-    token.assign(rest.substr(0, length));
-    state.TokenStream.Consume(length);
+    token = rest.substr(0, length);
+    state.TokenStream.Consume(length);  // moves the offset only: the view stays valid
     if (state.TokenKind == TokenIdentifier) {
         if (IsFunctionName(state, token)) {
             state.TokenKind = TokenFunction;
@@ -62,7 +60,7 @@ void ReadTokenUnguarded(EngineState& state, std::u16string& token) {
 void ReadToken(EngineState& state) {
     state.TokenKind = TokenNone;
     state.CurrentToken.clear();
-    std::u16string token;
+    std::u16string_view token;  // a view into the stream's text
     const bool completed = RunWithFailureHandler(state, [&] { ReadTokenUnguarded(state, token); });
     if (completed) state.CurrentToken = TrimBlanks(token);
 }

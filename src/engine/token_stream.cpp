@@ -1,6 +1,5 @@
 #include "engine/token_stream.h"
 
-#include <algorithm>
 
 #include "customfunctions/engine/call_expansion.h"
 #include "engine/errors.h"
@@ -13,33 +12,36 @@ namespace tessarondel {
 namespace {
 
 // Tabs, and CR LF pairs, become one blank each; a lone CR or LF stays.
-std::u16string BlankTabsAndLineEnds(std::u16string_view src) {
-    std::u16string out;
-    out.reserve(src.size());
+void BlankTabsAndLineEnds(std::u16string& src) {
+    if (src.find_first_of(u"\t\r") == std::u16string::npos) return;
+    std::size_t out = 0;
     for (std::size_t i = 0; i < src.size(); ++i) {
-        if (src[i] == u'\t') {
-            out += u' ';
-        } else if (src[i] == u'\r' && i + 1 < src.size() && src[i + 1] == u'\n') {
-            out += u' ';
-            ++i;
-        } else {
-            out += src[i];
-        }
+        const bool lineEnd = src[i] == u'\r' && i + 1 < src.size() && src[i + 1] == u'\n';
+        src[out++] = (src[i] == u'\t' || lineEnd) ? u' ' : src[i];
+        if (lineEnd) ++i;
     }
-    return out;
+    src.resize(out);
 }
 
-std::u16string WithoutBlanks(std::u16string_view src) {
-    std::u16string out;
-    out.reserve(src.size());
-    std::copy_if(src.begin(), src.end(), std::back_inserter(out), [](char16_t c) { return c != u' '; });
-    return out;
+// ")(" in the text with its blanks removed.
+bool HasAdjacentBrackets(std::u16string_view src) {
+    char16_t previous = u' ';
+    for (const char16_t c : src) {
+        if (c == u' ') continue;
+        if (previous == u')' && c == u'(') return true;
+        previous = c;
+    }
+    return false;
 }
 
-// There is no implied multiplication: a non-delimiter right behind ")" is an error.
-bool HasNameBehindBracket(std::u16string_view compact) {
-    for (std::size_t i = 0; i + 1 < compact.size(); ++i) {
-        if (compact[i] == u')' && !IsDelimiterChar(compact[i + 1])) return true;
+// There is no implied multiplication: in the text with its blanks removed, a
+// non-delimiter right behind ")" is an error.
+bool HasNameBehindBracket(std::u16string_view src) {
+    char16_t previous = u' ';
+    for (const char16_t c : src) {
+        if (c == u' ') continue;
+        if (previous == u')' && !IsDelimiterChar(c)) return true;
+        previous = c;
     }
     return false;
 }
@@ -48,6 +50,7 @@ constexpr std::u16string_view WordOperatorNames[] = {u"and", u"xor", u"eqv", u"m
 constexpr std::u16string_view WordOperatorTexts[] = {u"&", u"%!", u"%~", u"%%", u"%\\", u"|", u"%>"};
 
 std::u16string_view WordOperatorText(std::u16string_view word) {
+    if (word.size() < 2 || word.size() > 3) return {};
     for (std::size_t i = 0; i < std::size(WordOperatorNames); ++i) {
         if (word == WordOperatorNames[i]) return WordOperatorTexts[i];
     }
@@ -57,30 +60,32 @@ std::u16string_view WordOperatorText(std::u16string_view word) {
 // The passes behind the custom expansion; false when one of them stops the build.
 bool RewriteAndCheck(EngineState& state, std::u16string& src) {
     ScanExponents(state, src);
-    src = ReplaceWordOperators(ReplacePercentSigns(src));
-    if (ContainsText(u")(", WithoutBlanks(src))) {
+    ReplacePercentSigns(src);
+    ReplaceWordOperators(src);
+    if (HasAdjacentBrackets(src)) {
         state.ReportError(SyntaxError);
         return false;
     }
     if (!RunTokenPass(state, src)) return false;
-    src = BlankTabsAndLineEnds(src);
+    BlankTabsAndLineEnds(src);
     if (CountChar(state, src, u'(') != CountChar(state, src, u')')) {
         state.ReportError(BracketsMismatch);
         return false;
     }
-    if (HasNameBehindBracket(WithoutBlanks(src))) {
+    if (HasNameBehindBracket(src)) {
         state.ReportError(SyntaxError);
         return false;
     }
-    src = InsertSignZeros(src);
+    InsertSignZeros(src);
     return true;
 }
 
 }  // namespace
 
-std::u16string ReplacePercentSigns(std::u16string_view src) {
+void ReplacePercentSigns(std::u16string& src) {
+    if (src.find(u'%') == std::u16string::npos) return;
     std::u16string out;
-    out.reserve(src.size());
+    out.reserve(src.size() + 16);
     for (const char16_t c : src) {
         if (c == u'%') {
             out += u"*(0.01)";
@@ -88,45 +93,57 @@ std::u16string ReplacePercentSigns(std::u16string_view src) {
             out += c;
         }
     }
-    return out;
+    src = std::move(out);
 }
 
 // A replacement sends the scan back to the start; the words in front of it are
 // no operators (or they would have been replaced) and end where they ended, so
 // the scan goes on behind the replacement instead.
-std::u16string ReplaceWordOperators(std::u16string_view src) {
+void ReplaceWordOperators(std::u16string& src) {
     std::u16string out;
-    out.reserve(src.size());
+    std::size_t copied = 0;  // src up to here is in out
     std::size_t i = 0;
     while (i < src.size()) {
         if (!IsLetterChar(src[i])) {
-            out += src[i++];
+            ++i;
             continue;
         }
         std::size_t end = i;
         while (end < src.size() && IsLetterChar(src[end])) ++end;
-        const std::u16string_view word = src.substr(i, end - i);
-        const std::u16string_view replacement = WordOperatorText(word);
-        out += replacement.empty() ? word : replacement;
+        const std::u16string_view replacement = WordOperatorText(std::u16string_view(src).substr(i, end - i));
+        if (!replacement.empty()) {
+            out.append(src, copied, i - copied);
+            out += replacement;
+            copied = end;
+        }
         i = end;
     }
-    return out;
+    if (copied == 0) return;
+    out.append(src, copied, std::u16string::npos);
+    src = std::move(out);
 }
 
-std::u16string InsertSignZeros(std::u16string_view src) {
+void InsertSignZeros(std::u16string& src) {
+    const auto needsZero = [&](std::size_t i) {
+        return (src[i] == u'+' || src[i] == u'-') && (i == 0 || src[i - 1] == u'(');
+    };
+    std::size_t zeros = 0;
+    for (std::size_t i = 0; i < src.size(); ++i) zeros += needsZero(i) ? 1 : 0;
+    if (zeros == 0) return;
     std::u16string out;
-    out.reserve(src.size() + 8);
+    out.reserve(src.size() + zeros);
     for (std::size_t i = 0; i < src.size(); ++i) {
-        if ((src[i] == u'+' || src[i] == u'-') && (i == 0 || src[i - 1] == u'(')) out += u'0';
+        if (needsZero(i)) out += u'0';
         out += src[i];
     }
-    return out;
+    src = std::move(out);
 }
 
 std::u16string BuildTokenStream(EngineState& state, std::u16string_view source) {
     std::u16string result;
     RunWithFailureHandler(state, [&] {
-        std::u16string src = BlankTabsAndLineEnds(AsciiLower(source));
+        std::u16string src = AsciiLower(source);
+        BlankTabsAndLineEnds(src);
         src = ExpandCustomFunctionCalls(state, std::move(src));
         state.ExpansionScan = false;
         if (RewriteAndCheck(state, src)) result = std::move(src);

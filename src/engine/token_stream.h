@@ -13,11 +13,11 @@ namespace tessarondel {
 // after an error that stops it; the caller tests ErrorFlag.
 std::u16string BuildTokenStream(EngineState& state, std::u16string_view source);
 
-// The passes of BuildTokenStream, in their order, for tests.
-std::u16string ReplacePercentSigns(std::u16string_view src);
-std::u16string ReplaceWordOperators(std::u16string_view src);
+// The passes of BuildTokenStream, in their order, rewriting in place.
+void ReplacePercentSigns(std::u16string& src);
+void ReplaceWordOperators(std::u16string& src);
 // Checks and rewrites every token; false after an error that stops the build.
 bool RunTokenPass(EngineState& state, std::u16string& src);
-std::u16string InsertSignZeros(std::u16string_view src);
+void InsertSignZeros(std::u16string& src);
 
 }  // namespace tessarondel

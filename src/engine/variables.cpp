@@ -68,7 +68,7 @@ void BuildVariableListing(EngineState& state) {
     RunIgnoringFailures([&] {
         for (std::size_t i = 1; i < state.VariableTable.size(); ++i) {
             const VariableSlot& slot = state.VariableTable[i];
-            state.VariableListing += slot.name + u"\t=\t" + NumberText(slot.value) + u"\r\n";
+            state.VariableListing.append(slot.name).append(u"\t=\t").append(NumberText(slot.value)).append(u"\r\n");
         }
     });
 }

@@ -1,7 +1,9 @@
 #include "numbers/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <string>
 #include <system_error>
 
@@ -23,11 +25,8 @@ struct RoundedDecimal {
     int exponent = 0;    // power of ten of the first digit
 };
 
-RoundedDecimal RoundTo15Digits(double x) {
-    std::array<char, 64> buffer{};
-    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), x,
-                                       std::chars_format::scientific, SignificantDigits - 1);
-    const std::string_view text(buffer.data(), static_cast<std::size_t>(written.ptr - buffer.data()));
+// Digits and exponent of a scientific text "-d.ddde+xx".
+RoundedDecimal ReadScientific(std::string_view text) {
     RoundedDecimal result;
     std::size_t i = 0;
     if (text[i] == '-') {
@@ -40,8 +39,24 @@ RoundedDecimal RoundTo15Digits(double x) {
     }
     std::from_chars(text.data() + e + (text[e + 1] == '+' ? 2 : 1), text.data() + text.size(), result.exponent);
     while (result.digits.size() > 1 && result.digits.back() == '0') result.digits.pop_back();
-    if (x == 0) result = RoundedDecimal{false, "0", 0};  // -0 formats as 0
     return result;
+}
+
+RoundedDecimal RoundTo15Digits(double x) {
+    if (x == 0) return RoundedDecimal{false, "0", 0};  // -0 formats as 0
+    std::array<char, 64> buffer{};
+    char* const first = buffer.data();
+    // For a normal double the shortest text that reads back to x lies within
+    // half a unit of its last bit, far less than half a unit of the 15th
+    // digit; with at most 15 digits it is therefore x rounded to 15 digits.
+    // Others are rounded from the exact value.
+    auto written = std::to_chars(first, first + buffer.size(), x, std::chars_format::scientific);
+    if (std::isnormal(x)) {
+        RoundedDecimal shortest = ReadScientific(std::string_view(first, static_cast<std::size_t>(written.ptr - first)));
+        if (shortest.digits.size() <= SignificantDigits) return shortest;
+    }
+    written = std::to_chars(first, first + buffer.size(), x, std::chars_format::scientific, SignificantDigits - 1);
+    return ReadScientific(std::string_view(first, static_cast<std::size_t>(written.ptr - first)));
 }
 
 std::string FixedForm(const RoundedDecimal& d, bool zeroBeforePoint) {
@@ -89,20 +104,20 @@ std::size_t DigitRun(std::u16string_view t, std::size_t i) {
 
 // A number in plain ASCII: optional "-", digits with an optional point, and
 // an optional "e" exponent. Too large is the overflow failure; too small is 0.
-double ParseDecimal(const std::string& text) {
+double ParseDecimal(std::string_view text) {
     double value = 0;
     const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
     if (parsed.ec == std::errc()) return value;
     if (parsed.ec != std::errc::result_out_of_range) throw RunFailure("no number");
     // Out of range: decide whether the magnitude is beyond the top or the bottom.
     const std::size_t e = text.find('e');
-    const std::string mantissa = text.substr(0, e);
+    const std::string_view mantissa = text.substr(0, e);
     long long exponent = 0;
-    if (e != std::string::npos) {
+    if (e != std::string_view::npos) {
         const char* first = text.data() + e + 1 + (text[e + 1] == '+' ? 1 : 0);
         std::from_chars(first, text.data() + text.size(), exponent);
     }
-    const std::size_t point = mantissa.find('.') == std::string::npos ? mantissa.size() : mantissa.find('.');
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
     const std::size_t lead = mantissa.find_first_of("123456789");
     const long long leadPower = lead < point ? static_cast<long long>(point - lead) - 1
                                              : -static_cast<long long>(lead - point);
@@ -113,9 +128,19 @@ double ParseDecimal(const std::string& text) {
 // Plain ASCII form of a numeric text: "d" read as "e", no "+" in front.
 std::string ToPlainAscii(std::u16string_view t) {
     std::string out;
-    out.reserve(t.size());
+    out.reserve(t.size() + 1);
     for (const char16_t c : t) out += IsExponentMark(c) ? 'e' : static_cast<char>(c);
     return out;
+}
+
+// The same for short texts, without a heap allocation.
+double ParseNumericText(std::u16string_view t, bool negative) {
+    std::array<char, 64> buffer{};
+    if (t.size() + 1 > buffer.size()) return ParseDecimal((negative ? "-" : "") + ToPlainAscii(t));
+    std::size_t n = 0;
+    if (negative) buffer[n++] = '-';
+    for (const char16_t c : t) buffer[n++] = IsExponentMark(c) ? 'e' : static_cast<char>(c);
+    return ParseDecimal(std::string_view(buffer.data(), n));
 }
 
 }  // namespace
@@ -152,7 +177,7 @@ double TextToNumber(std::u16string_view t) {
         t.remove_prefix(1);
     }
     if (!IsNumericText(t)) throw RunFailure("text is no number");
-    return ParseDecimal((negative ? "-" : "") + ToPlainAscii(t));
+    return ParseNumericText(t, negative);
 }
 
 double LeadingNumber(std::u16string_view t) {

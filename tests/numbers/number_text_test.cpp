@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <array>
+#include <charconv>
 #include <clocale>
+#include <cstdint>
+#include <random>
 #include <cmath>
 #include <cstring>
 #include <string>
@@ -144,6 +148,29 @@ TEST(LeadingNumber, ReadsWhatFormsANumber) {
 }
 
 TEST(LeadingNumber, BeyondTheDoubleRangeIsOverflow) { EXPECT_THROW(LeadingNumber(u"1e309"), OverflowFailure); }
+
+// The value of x rounded to 15 significant digits from its exact binary value.
+double RoundedTo15Digits(double x) {
+    std::array<char, 64> buffer{};
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), x, std::chars_format::scientific, 14);
+    double rounded = 0;
+    std::from_chars(buffer.data(), written.ptr, rounded);
+    return rounded;
+}
+
+TEST(NumberText, HoldsTheExactlyRoundedDigitsForAnyDouble) {
+    std::mt19937_64 random(5);
+    std::uniform_real_distribution<double> decimals(-1e6, 1e6);
+    for (int i = 0; i < 50000; ++i) {
+        std::uint64_t bits = random();
+        double x = 0;
+        std::memcpy(&x, &bits, sizeof x);
+        if (i % 2 == 0) x = std::round(decimals(random) * 1000) / 1000;  // short decimals take the quick way
+        if (!std::isfinite(x)) continue;
+        SCOPED_TRACE(testing::Message() << std::hexfloat << x);
+        ASSERT_EQ(TextToNumber(NumberText(x)), RoundedTo15Digits(x));
+    }
+}
 
 TEST(NumberText, RoundTripsThroughTextToNumberAtFifteenDigits) {
     for (double x : {1.0 / 3, -2.0 / 7, 123456.789e-200, 6.02214076e23, 1e-15, 1e-16}) {
