@@ -3,10 +3,12 @@
 #include <charconv>
 #include <istream>
 #include <ostream>
+#include <utility>
 
 #include "cli/json_protocol.h"
 #include "engine/engine.h"
 #include "engine/text_codec.h"
+#include "numbers/base_display.h"
 
 namespace tessarondel {
 
@@ -15,13 +17,15 @@ namespace {
 constexpr const char* VersionText = "1.2.6688 Build 1228";
 
 constexpr const char* UsageText =
-    "Usage: tessarondel-cli [--round N] [EXPR...]\n"
+    "Usage: tessarondel-cli [--round N] [--base bin|oct|dec|hex] [--complement] [EXPR...]\n"
     "       tessarondel-cli --json\n"
     "\n"
     "Evaluates each EXPR in order in one engine and prints one result per line.\n"
     "Without EXPR, reads one expression per line from standard input.\n"
     "\n"
     "  --round N   round every intermediate result to N places (0 to 22; -1 is off)\n"
+    "  --base B    show every result as the display shows it in base B: bin, oct, dec or hex\n"
+    "  --complement  show negative results in 32-bit complement form in bin, oct and hex\n"
     "  --json      answer JSON Lines requests from standard input\n"
     "  --help      show this help\n"
     "  --version   show the version\n"
@@ -34,12 +38,26 @@ struct Options {
     bool help = false;
     bool version = false;
     int approximateBits = -1;
+    int baseIndex = BaseIndexDecimal;
+    bool complement = false;
     std::vector<std::string> expressions;
 };
 
 bool ParseInteger(const std::string& text, int& value) {
     const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
     return parsed.ec == std::errc() && parsed.ptr == text.data() + text.size();
+}
+
+bool ParseBaseName(const std::string& text, int& index) {
+    constexpr std::pair<const char*, int> Names[] = {
+        {"bin", BaseIndexBinary}, {"dec", BaseIndexDecimal}, {"oct", BaseIndexOctal}, {"hex", BaseIndexHexadecimal}};
+    for (const auto& [name, baseIndex] : Names) {
+        if (text == name) {
+            index = baseIndex;
+            return true;
+        }
+    }
+    return false;
 }
 
 // Options first; "--" or the first argument that is no option starts the
@@ -62,6 +80,10 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::o
             options.version = true;
         } else if (arg == "--round" && i + 1 < args.size() && ParseInteger(args[i + 1], options.approximateBits)) {
             ++i;
+        } else if (arg == "--base" && i + 1 < args.size() && ParseBaseName(args[i + 1], options.baseIndex)) {
+            ++i;
+        } else if (arg == "--complement") {
+            options.complement = true;
         } else {
             err << "tessarondel-cli: bad option: " << arg << "\n" << UsageText;
             return std::nullopt;
@@ -75,16 +97,20 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::o
     return options;
 }
 
-// Prints the result as the main window shows it; false when the evaluation failed.
-bool EvaluateAndPrint(EngineState& engine, const std::string& expression, std::ostream& out) {
+// Prints the result as the main window shows it in the chosen base; false
+// when the evaluation failed. A failed base conversion leaves the decimal text.
+bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::string& expression, std::ostream& out) {
     const std::u16string result = EvaluateText(engine, ToUtf16(expression));
-    if (engine.ErrorFlag) {
-        out << "Error: " << ToUtf8(engine.ErrorText) << '\n';
+    const bool good = !engine.ErrorFlag;
+    if (good) {
+        const BaseDisplay display =
+            ShowResultInBase(engine.LastAnswer, result, options.baseIndex, options.complement, engine);
+        out << ToUtf8(display.text.value_or(result)) << '\n';
     } else {
-        out << ToUtf8(result) << '\n';
+        out << "Error: " << ToUtf8(engine.ErrorText) << '\n';
     }
     out.flush();
-    return !engine.ErrorFlag;
+    return good;
 }
 
 int RunExpressions(const Options& options, const LineReader& readLine, std::ostream& out) {
@@ -93,9 +119,11 @@ int RunExpressions(const Options& options, const LineReader& readLine, std::ostr
     engine.ErrorBoxTitle = u"Tessarondel Error Information";
     bool allGood = true;
     if (!options.expressions.empty()) {
-        for (const auto& expression : options.expressions) allGood = EvaluateAndPrint(engine, expression, out) && allGood;
+        for (const auto& expression : options.expressions) {
+            allGood = EvaluateAndPrint(engine, options, expression, out) && allGood;
+        }
     } else {
-        while (const auto line = readLine()) allGood = EvaluateAndPrint(engine, *line, out) && allGood;
+        while (const auto line = readLine()) allGood = EvaluateAndPrint(engine, options, *line, out) && allGood;
     }
     return allGood ? CliAllGood : CliSomeFailed;
 }

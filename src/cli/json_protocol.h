@@ -34,6 +34,7 @@ using RequestTable = std::map<std::string, RequestHandler, std::less<>>;
 // The request sets; each lives in its own file. RegisterAllRequests fills a
 // table with every set.
 void RegisterEngineRequests(RequestTable& table);  // eval, clear, round
+void RegisterBaseRequests(RequestTable& table);    // tobase, show
 void RegisterAllRequests(RequestTable& table);
 
 // Answers one input line with one response line (without the line end).

@@ -4,6 +4,9 @@ namespace tessarondel {
 
 // Every request set of the protocol; a request that no set registers answers
 // protocol_error.
-void RegisterAllRequests(RequestTable& table) { RegisterEngineRequests(table); }
+void RegisterAllRequests(RequestTable& table) {
+    RegisterEngineRequests(table);
+    RegisterBaseRequests(table);
+}
 
 }  // namespace tessarondel

@@ -14,22 +14,6 @@ namespace {
 
 // Worked examples that need parts which have not landed yet. Each group
 // empties as its part arrives; a case listed here is skipped, never deleted.
-const std::set<std::string> kWaitingForBuiltins = {
-    "p11-last-error-wins-5", "p12-alias-blank",      "p15-commalist-across-evals", "p16-exp-overflow-kept",
-    "p21-sum-text-precision", "p21-prod-third",      "p21-sqrt-nested-group",     "p21-ln-e",
-    "p21-ch-neg-overflow",   "p21-arch-half",        "p21-arcsin-half",           "p21-arcsec-3",
-    "p21-angtorad",          "p21-rnd-two",          "p21-sqr-square",            "p21-iif-exponent-text",
-    "p21-log-base",          "p21-std-four",         "p22-sin-3pi",               "p22-cos-pi",
-    "p22-cot-pi4",           "p22-cot-neg-pi",       "p22-cot-pi2",               "p22-fac-17",
-    "p22-comb-170-85",       "p22-comb-6-3",         "p22-perm-zero",             "p22-round-not-tie",
-    "p22-round-neg-places",  "p22-short-neg-point",  "p22-short-cap",             "p22-short-floor-dec",
-    "p22-prod-overflow",
-};
-const std::set<std::string> kWaitingForBaseRequests = {
-    "p23-tobase-10",     "p23-tobase-frac-zeros", "p23-tobase-neg-round", "p23-tobase-tie-frac",
-    "p23-tobase-oct-100", "p24-negB-bin",         "p24-1e20-hex",         "p24-compl-half",
-    "p24-third-decimal",
-};
 // The expansion also walks every expression with the token reader, which is
 // where a reader error such as 3 usually arises first.
 const std::set<std::string> kWaitingForCustomFunctions = {
@@ -82,8 +66,6 @@ void ExpectFields(const json::Value& expected, const json::Value& response) {
 
 TEST_P(GoldenCases, ResponsesMatchTheTracedFields) {
     const GoldenCase& golden = GetParam();
-    if (kWaitingForBuiltins.count(golden.id)) GTEST_SKIP() << "needs the built-in functions";
-    if (kWaitingForBaseRequests.count(golden.id)) GTEST_SKIP() << "needs the tobase and show requests";
     if (kWaitingForCustomFunctions.count(golden.id)) GTEST_SKIP() << "needs the custom functions and their expansion";
     SCOPED_TRACE(golden.why);
     JsonSession session;
