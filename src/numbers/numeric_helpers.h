@@ -14,8 +14,12 @@ namespace tessarondel {
 
 using CommaTexts = SlotList<std::u16string>;
 
-// Snapping tests, judged on x rounded to 15 significant digits so that a
-// value like 3*pi/2 lands on the grid of quarter turns.
+// x rounded to 15 significant digits, as its display text reads back;
+// OverflowFailure when that rounding leaves the double range.
+double FifteenDigitCopy(double x);
+
+// Snapping tests, judged on the 15-digit copy of x so that a value like
+// 3*pi/2 lands on the grid of quarter turns.
 bool IsPiMultiple(double x);
 bool IsOddHalfPi(double x);
 // Which infinity tan and cot give at a pole: true for the positive one.

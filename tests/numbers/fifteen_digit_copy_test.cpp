@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <random>
+
+#include "numbers/builtins.h"
+#include "numbers/number_text.h"
+#include "numbers/numeric_helpers.h"
+#include "numbers/run_failure.h"
+
+namespace tessarondel {
+namespace {
+
+// The snapping tests read the 15-digit copy without going through the
+// display text; it must be the value that the display text reads back as.
+void ExpectSameAsTheDisplayTextRoute(double x) {
+    SCOPED_TRACE(x);
+    const double viaText = TextToNumber(DisplayNumberText(x));
+    const double copy = FifteenDigitCopy(x);
+    EXPECT_EQ(std::signbit(copy), std::signbit(viaText));
+    EXPECT_EQ(copy, viaText);
+}
+
+TEST(FifteenDigitCopy, EqualsTheDisplayTextReadBack) {
+    for (const double x : {0.0,
+                           -0.0,
+                           1.0,
+                           -1.0,
+                           PiValue,
+                           PiValue / 2,
+                           3 * PiValue / 2,
+                           0.1 + 0.2,
+                           1E-15,
+                           1E-16,
+                           1.5E-07,
+                           9.88131291682493E-14,
+                           1E+15,
+                           123456789012345678.0,
+                           BigValue,
+                           -BigValue,
+                           std::numeric_limits<double>::denorm_min(),
+                           1E-310,
+                           -1E-320,
+                           std::numeric_limits<double>::min(),
+                           1.4999999999999999,
+                           0.999999999999999944}) {
+        ExpectSameAsTheDisplayTextRoute(x);
+    }
+}
+
+TEST(FifteenDigitCopy, EqualsTheDisplayTextReadBackForRandomBitPatterns) {
+    std::mt19937_64 generator(20261122);
+    int compared = 0;
+    while (compared < 5000) {
+        const std::uint64_t bits = generator();
+        double x = 0;
+        std::memcpy(&x, &bits, sizeof x);
+        if (!std::isfinite(x) || std::abs(x) >= 1.797693134862315E+308) continue;
+        ExpectSameAsTheDisplayTextRoute(x);
+        ++compared;
+    }
+}
+
+TEST(FifteenDigitCopy, LargestDoublesRoundBeyondTheRange) {
+    const double largest = std::numeric_limits<double>::max();
+    EXPECT_THROW(TextToNumber(DisplayNumberText(largest)), OverflowFailure);
+    EXPECT_THROW(FifteenDigitCopy(largest), OverflowFailure);
+    EXPECT_THROW(FifteenDigitCopy(-largest), OverflowFailure);
+}
+
+}  // namespace
+}  // namespace tessarondel
