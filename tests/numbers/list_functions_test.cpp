@@ -117,6 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ListRow{"FewerDigitsThanDecimals", "short", {1.5, 4}, 1.5, Exact, {}},
                       ListRow{"DecimalsCappedAtTwenty", "short", {0.333333333333333, 25}, 0.333333333333333, Exact, {}},
                       ListRow{"NegativeDecimalsCutIntoTheWholePart", "short", {123.456, -2}, 12, Exact, {5}},
+                      ListRow{"NegativeDecimalsWithoutPointGoOn", "short", {5, -3}, 5, Exact, {5}},
                       ListRow{"NegativeLengthFailsAfterTheReport", "short", {1.5, -5}, -5, Exact, {5, 99}}),
     testing_builtins::RowName<ListRow>);
 
