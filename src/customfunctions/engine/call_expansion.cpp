@@ -1,10 +1,199 @@
-// Placeholder until the custom function table lands: no custom names exist.
 #include "customfunctions/engine/call_expansion.h"
+
+#include <cstdint>
+#include <vector>
+
+#include "customfunctions/engine/failure_report.h"
+#include "customfunctions/engine/function_table.h"
+#include "customfunctions/engine/function_text.h"
+#include "customfunctions/engine/token_text_rules.h"
+#include "engine/token_reader.h"
 
 namespace tessarondel {
 
-std::u16string ExpandCustomFunctionCalls(EngineState&, std::u16string text) { return text; }
+namespace {
 
-bool IsCustomFunctionName(const EngineState&, std::u16string_view) { return false; }
+// Positions in the expansion are 16-bit: a text beyond 32,767 characters
+// overflows them.
+std::size_t Position(std::size_t position) {
+    if (position > 32767) throw OverflowFailure();
+    return position;
+}
+
+struct CallSite {
+    std::size_t open = 0;   // 1-based position of the token's `name(`
+    std::size_t close = 0;  // 1-based position of its closing bracket; 0 when none matches
+};
+
+// The first `token(` anywhere in the text (not necessarily the token just read)
+// and its matching bracket, found by counting round brackets only.
+CallSite FindCallSite(std::u16string_view text, std::u16string_view token) {
+    CallSite site;
+    site.open = Position(FindText(text, std::u16string(token) + u"("));
+    if (site.open == 0) return site;
+    int depth = 1;
+    std::size_t i = Position(site.open + token.size() + 1);
+    do {
+        const char16_t c = i <= text.size() ? text[i - 1] : u'\0';
+        if (c == u'(') ++depth;
+        if (c == u')') --depth;
+        i = Position(i + 1);
+    } while (i <= text.size() && depth != 0);
+    if (depth == 0) site.close = i - 1;
+    return site;
+}
+
+// Cuts the argument text at commas; a piece with more opening brackets takes
+// the following pieces along until the counts agree.
+bool CutArguments(EngineState& state, std::u16string_view argumentText, std::vector<std::u16string>& result) {
+    const std::vector<std::u16string> parts = SplitText(argumentText, u",");
+    const std::size_t last = parts.size() - 1;
+    for (std::size_t k = 0; k <= last; ++k) {
+        if (Trim(parts[k]).empty()) {
+            state.ErrorNumber = 5;
+            return false;
+        }
+        int opening = CountChar(state, parts[k], u'(');
+        int closing = CountChar(state, parts[k], u')');
+        if (opening < closing) return false;
+        if (opening == closing) {
+            result.push_back(parts[k]);
+            continue;
+        }
+        const std::size_t first = k;
+        do {
+            ++k;
+            opening += CountChar(state, parts.at(k), u'(');
+            closing += CountChar(state, parts.at(k), u')');
+        } while (k < last && closing < opening);
+        if (opening != closing) return false;
+        std::u16string joined = parts[first];
+        for (std::size_t j = first + 1; j <= k; ++j) joined += u"," + parts[j];
+        result.push_back(std::move(joined));
+    }
+    return true;
+}
+
+// The text that replaces one call, or nothing when the call is refused (the
+// number to report is then in ErrorNumber).
+bool BuildReplacement(EngineState& state, const std::u16string& token, std::u16string_view argumentText,
+                      SlotList<std::u16string>& arguments, std::u16string& replacement) {
+    CustomFunctionEntry entry = state.CustomFunctionTable[FindCustomFunctionIndex(state, token)];
+    if (entry.NoParameters) {
+        if (!argumentText.empty()) {
+            state.ErrorNumber = 5;
+            return false;
+        }
+        // No brackets around a body without parameters: `1+2` called in `j()*2` gives 1+2*2.
+        replacement = entry.CompiledBody;
+        return true;
+    }
+    if (!SplitCallArguments(state, argumentText, entry.Parameters.UpperBound(), arguments, entry)) return false;
+    replacement = Trim(BindCustomFunctionBody(state, entry, arguments));
+    return true;
+}
+
+// One pass of the scan: reads tokens until a custom name, and expands its first
+// call everywhere. Returns false when the scan reached the end or was refused.
+bool ExpandNextCall(EngineState& state, std::u16string& text, SlotList<std::u16string>& arguments, bool& refused) {
+    do {
+        ReadToken(state);
+        const std::u16string token = state.CurrentToken;
+        if (!IsCustomFunctionName(state, token)) continue;
+        const CallSite site = FindCallSite(text, token);
+        if (site.open == 0 || site.close == 0) {
+            if (site.open != 0) state.ErrorNumber = 1;
+            refused = true;
+            return false;
+        }
+        const std::size_t argumentStart = site.open + token.size() + 1;
+        const std::u16string_view argumentText =
+            std::u16string_view(text).substr(argumentStart - 1, site.close - argumentStart);
+        std::u16string replacement;
+        if (!BuildReplacement(state, token, argumentText, arguments, replacement)) {
+            refused = true;
+            return false;
+        }
+        const std::u16string callText = text.substr(site.open - 1, site.close - site.open + 1);
+        // Every identical call goes at once, and any text that merely ends in it.
+        text = ReplaceAll(text, callText, replacement);
+        return true;
+    } while (!state.CurrentToken.empty());
+    return false;
+}
+
+}  // namespace
+
+bool IsCustomFunctionName(const EngineState& state, std::u16string_view token) {
+    return ContainsText(u"{" + LowerCase(Trim(token)) + u"}", state.CustomFunctionNames);
+}
+
+std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text) {
+    // Keeps its contents from one call to the next in this pass: an empty call
+    // after a good one passes the bound test and is refused by its blankness.
+    SlotList<std::u16string> arguments;
+    try {
+        state.TokenStream.Assign(text);
+        state.ExpansionScan = true;
+        bool refused = false;
+        // After each replacement the scan starts again at the first character.
+        while (ExpandNextCall(state, text, arguments, refused)) state.TokenStream.Assign(text);
+        if (refused) state.ReportError(state.ErrorNumber);
+        return text;
+    } catch (...) {
+        ReportCaughtFailure(state);
+        return {};
+    }
+}
+
+bool SplitCallArguments(EngineState& state, std::u16string_view argumentText, long parameterUpperBound,
+                        SlotList<std::u16string>& arguments, const CustomFunctionEntry& entry) {
+    state.ErrorNumber = 99;
+    bool failed = false;
+    try {
+        if (!argumentText.empty()) {
+            std::vector<std::u16string> result;
+            failed = !CutArguments(state, argumentText, result);
+            if (!failed) arguments.Assign(std::move(result));
+        }
+        // Before any call of this pass filled `arguments`, this bound is the fault below.
+        if (arguments.UpperBound() != parameterUpperBound) {
+            failed = true;
+            state.ErrorNumber = 5;
+        }
+        if (Trim(argumentText).empty() == !entry.NoParameters) {
+            failed = true;
+            state.ErrorNumber = 5;
+        }
+        return !failed;
+    } catch (...) {
+        state.ReportError(state.ErrorNumber);
+        return false;
+    }
+}
+
+std::u16string BindCustomFunctionBody(EngineState& state, CustomFunctionEntry& entry,
+                                      const SlotList<std::u16string>& arguments) {
+    try {
+        if (arguments.UpperBound() != entry.Parameters.UpperBound()) {
+            state.ReportError(5);
+            return {};
+        }
+        for (long k = 0; k <= arguments.UpperBound(); ++k) entry.Parameters[k].Value = arguments[k];
+        std::u16string body = entry.CompiledBody;
+        for (const CustomFunctionParameter& parameter : entry.Parameters.Items()) {
+            const std::u16string name = Trim(parameter.Name);
+            if (name.empty()) break;
+            body = ReplaceAll(body, u"{" + name + u"}", u"(" + Trim(parameter.Value) + u")");
+        }
+        const std::u16string trimmed = Trim(body);
+        if (!trimmed.empty() && LowerCase(trimmed) != u"error") return u"(" + body + u")";
+        state.ReportError(state.ErrorNumber);
+        return {};
+    } catch (...) {
+        ReportCaughtFailure(state);
+        return {};
+    }
+}
 
 }  // namespace tessarondel

@@ -1,1 +1,0 @@
-// Placeholder: the document reader and writer land here.
