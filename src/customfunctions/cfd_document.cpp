@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "customfunctions/engine/function_text.h"
+#include "numbers/text_rules.h"
 #include "customfunctions/windows1252.h"
 #include "engine/text_codec.h"
 
@@ -46,14 +47,14 @@ private:
 
 // Reads trimmed lines until `header` or the end; `line` holds the last one read.
 void SkipTo(LineReader& lines, std::u16string& line, std::u16string_view header) {
-    while (!lines.AtEnd() && line != header) line = Trim(lines.Next());
+    while (!lines.AtEnd() && line != header) line = TrimBlanks(lines.Next());
 }
 
 // The first non-empty line before `header`; later lines of the section are dropped.
 std::u16string FirstLineBefore(LineReader& lines, std::u16string& line, std::u16string_view header) {
     std::u16string first;
     while (!lines.AtEnd() && line != header) {
-        line = Trim(lines.Next());
+        line = TrimBlanks(lines.Next());
         if (line != header && first.empty()) first = line;
     }
     return first;
@@ -151,22 +152,19 @@ std::optional<CustomFunctionDocument> ParseDocument(std::string_view bytes) {
     document.Name = FirstLineBefore(lines, line, ParameterHeader);
     document.ParameterText = FirstLineBefore(lines, line, ExpressionHeader);
     while (!lines.AtEnd() && line != DescriptionHeader) {
-        line = Trim(lines.Next());
+        line = TrimBlanks(lines.Next());
         if (line != DescriptionHeader) document.Expression.append(line).append(u"\r\n");
     }
-    while (!lines.AtEnd()) document.Description.append(Trim(lines.Next())).append(u"\r\n");
-    if (Trim(document.Name).empty() || Trim(document.Expression).empty()) return std::nullopt;
+    while (!lines.AtEnd()) document.Description.append(TrimBlanks(lines.Next())).append(u"\r\n");
+    if (TrimBlanks(document.Name).empty() || TrimBlanks(document.Expression).empty()) return std::nullopt;
     return document;
 }
 
 std::string FormatDocument(const CustomFunctionDocument& document) {
-    const std::u16string name = Trim(document.Name), parameters = Trim(document.ParameterText);
-    const std::u16string expression = Trim(document.Expression), description = Trim(document.Description);
     std::u16string text;
-    for (std::u16string_view item : {Magic, NameHeader, std::u16string_view(name), ParameterHeader,
-                                     std::u16string_view(parameters), ExpressionHeader,
-                                     std::u16string_view(expression), DescriptionHeader,
-                                     std::u16string_view(description)}) {
+    for (std::u16string_view item :
+         {Magic, NameHeader, TrimBlanks(document.Name), ParameterHeader, TrimBlanks(document.ParameterText),
+          ExpressionHeader, TrimBlanks(document.Expression), DescriptionHeader, TrimBlanks(document.Description)}) {
         text.append(item).append(u"\r\n");
     }
     return EncodeWindows1252(text);
@@ -189,8 +187,17 @@ FolderReadResult ReadFunctionFolder(const std::filesystem::path& folder) {
     return result;
 }
 
+FolderReadResult LoadFunctionFolder(EngineState& state, const std::filesystem::path& folder) {
+    FolderReadResult result = ReadFunctionFolder(folder);
+    if (result.failed && state.ShowMessageBox) {
+        state.ShowMessageBox(std::u16string(LoadFailedMessage), std::u16string(DocumentErrorTitle));
+    }
+    for (const CustomFunctionDocument& document : result.documents) DefineDocument(state, document);
+    return result;
+}
+
 bool WriteFunctionDocument(const std::filesystem::path& folder, const CustomFunctionDocument& document) {
-    const std::u16string name = Trim(document.Name);
+    const std::u16string_view name = TrimBlanks(document.Name);
     if (!IsPlainFileName(name)) return false;
     const std::filesystem::path target = folder / (ToUtf8(name) + ".cfd");
     // Written beside the target and renamed over it, so a failed save leaves the old document whole.

@@ -28,6 +28,19 @@ struct FolderReadResult {
 // Reads every *.cfd of `folder` in name order, ignoring case.
 FolderReadResult ReadFunctionFolder(const std::filesystem::path& folder);
 
+// The boxes of the document failures, all with this title.
+inline constexpr std::u16string_view DocumentErrorTitle = u"Error Information";
+inline constexpr std::u16string_view LoadFailedMessage = u"Some errors occurred when Loading the Custom Function!";
+inline constexpr std::u16string_view SaveFailedMessage = u"Some errors occurred when Saving the Custom Function!";
+inline constexpr std::u16string_view RemoveFailedMessage = u"Some errors occurred when removing the Custom Function!";
+
+// Reads the folder and runs each kept document through DefineDocument, in
+// file order: of two documents where one calls the other, the callee must
+// sort first. A refused document stays in the result. A failed read shows
+// LoadFailedMessage through state.ShowMessageBox and defines nothing. Each
+// defined document turns ShowErrorBox off.
+FolderReadResult LoadFunctionFolder(EngineState& state, const std::filesystem::path& folder);
+
 // Replaces <folder>/<name>.cfd atomically. False for a name that is not one
 // plain file name component, or when the folder can't be written.
 bool WriteFunctionDocument(const std::filesystem::path& folder, const CustomFunctionDocument& document);

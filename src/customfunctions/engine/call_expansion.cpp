@@ -6,6 +6,7 @@
 #include "customfunctions/engine/failure_report.h"
 #include "customfunctions/engine/function_table.h"
 #include "customfunctions/engine/function_text.h"
+#include "numbers/text_rules.h"
 #include "customfunctions/engine/token_text_rules.h"
 #include "engine/token_reader.h"
 
@@ -49,7 +50,7 @@ bool CutArguments(EngineState& state, std::u16string_view argumentText, std::vec
     const std::vector<std::u16string> parts = SplitText(argumentText, u",");
     const std::size_t last = parts.size() - 1;
     for (std::size_t k = 0; k <= last; ++k) {
-        if (Trim(parts[k]).empty()) {
+        if (TrimBlanks(parts[k]).empty()) {
             state.ErrorNumber = 5;
             return false;
         }
@@ -89,7 +90,7 @@ bool BuildReplacement(EngineState& state, const std::u16string& token, std::u16s
         return true;
     }
     if (!SplitCallArguments(state, argumentText, entry.Parameters.UpperBound(), arguments, entry)) return false;
-    replacement = Trim(BindCustomFunctionBody(state, entry, arguments));
+    replacement = TrimBlanks(BindCustomFunctionBody(state, entry, arguments));
     return true;
 }
 
@@ -125,7 +126,7 @@ bool ExpandNextCall(EngineState& state, std::u16string& text, SlotList<std::u16s
 }  // namespace
 
 bool IsCustomFunctionName(const EngineState& state, std::u16string_view token) {
-    return ContainsText(u"{" + LowerCase(Trim(token)) + u"}", state.CustomFunctionNames);
+    return ContainsText(u"{" + AsciiLower(TrimBlanks(token)) + u"}", state.CustomFunctionNames);
 }
 
 std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text) {
@@ -161,7 +162,7 @@ bool SplitCallArguments(EngineState& state, std::u16string_view argumentText, lo
             failed = true;
             state.ErrorNumber = 5;
         }
-        if (Trim(argumentText).empty() == !entry.NoParameters) {
+        if (TrimBlanks(argumentText).empty() == !entry.NoParameters) {
             failed = true;
             state.ErrorNumber = 5;
         }
@@ -182,12 +183,12 @@ std::u16string BindCustomFunctionBody(EngineState& state, CustomFunctionEntry& e
         for (long k = 0; k <= arguments.UpperBound(); ++k) entry.Parameters[k].Value = arguments[k];
         std::u16string body = entry.CompiledBody;
         for (const CustomFunctionParameter& parameter : entry.Parameters.Items()) {
-            const std::u16string name = Trim(parameter.Name);
+            const std::u16string name(TrimBlanks(parameter.Name));
             if (name.empty()) break;
-            body = ReplaceAll(body, u"{" + name + u"}", u"(" + Trim(parameter.Value) + u")");
+            body = ReplaceAll(body, u"{" + name + u"}", u"(" + std::u16string(TrimBlanks(parameter.Value)) + u")");
         }
-        const std::u16string trimmed = Trim(body);
-        if (!trimmed.empty() && LowerCase(trimmed) != u"error") return u"(" + body + u")";
+        const std::u16string_view trimmed = TrimBlanks(body);
+        if (!trimmed.empty() && AsciiLower(trimmed) != u"error") return u"(" + body + u")";
         state.ReportError(state.ErrorNumber);
         return {};
     } catch (...) {

@@ -3,12 +3,13 @@
 
 #include "customfunctions/engine/function_table.h"
 #include "customfunctions/engine/function_text.h"
+#include "numbers/text_rules.h"
 #include "numbers/run_failure.h"
 
 namespace tessarondel {
 
 std::u16string StripNote(std::u16string_view line) {
-    return Trim(line.substr(0, line.find(u'\'')));
+    return std::u16string(TrimBlanks(line.substr(0, line.find(u'\''))));
 }
 
 std::u16string PrepareExpressionList(std::u16string_view lines) {
@@ -21,10 +22,10 @@ std::u16string PrepareExpressionList(std::u16string_view lines) {
     }
     // Cutting the last character off nothing is the failure that a list of
     // notes and blank lines ends in; the caller's handler decides.
-    const std::u16string trimmed = Trim(joined);
+    const std::u16string_view trimmed = TrimBlanks(joined);
     if (trimmed.empty()) throw RunFailure("left part of negative length");
     // Every kept line is followed by a comma, so the last character is one.
-    return trimmed.substr(0, trimmed.size() - 1);
+    return std::u16string(trimmed.substr(0, trimmed.size() - 1));
 }
 
 bool DefineDocument(EngineState& state, const CustomFunctionDocument& document) {

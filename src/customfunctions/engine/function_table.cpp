@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "customfunctions/engine/function_text.h"
+#include "numbers/text_rules.h"
 #include "customfunctions/engine/token_text_rules.h"
 
 namespace tessarondel {
@@ -40,7 +41,7 @@ bool FillParameters(SlotList<CustomFunctionParameter>& parameters, std::u16strin
     const std::vector<std::u16string> pieces = SplitText(parameterText, u",");
     parameters.Assign(std::vector<CustomFunctionParameter>(pieces.size()));
     for (std::size_t k = 0; k < pieces.size(); ++k) {
-        const std::u16string name = Trim(pieces[k]);
+        const std::u16string name(TrimBlanks(pieces[k]));
         if (name.empty()) return false;
         parameters[static_cast<long>(k)] = {name, u"0"};
     }
@@ -50,27 +51,27 @@ bool FillParameters(SlotList<CustomFunctionParameter>& parameters, std::u16strin
 // The name is tested bare against the joined lists, so a name that is any part
 // of an entry (`a` of {max}, `are` of {area}) is refused.
 bool PassesAddChecks(EngineState& state, const CustomFunctionInput& input) {
-    if (Trim(input.Name).empty()) return Refuse(state, 8);
+    if (TrimBlanks(input.Name).empty()) return Refuse(state, 8);
     std::u16string reserved(BuiltinFunctionList);
     reserved.append(AliasList).append(state.CustomFunctionNames).append(WordOperatorList).append(ConstantList);
     if (ContainsText(input.Name, reserved)) return Refuse(state, 9);
-    if (Trim(input.Expression).empty()) return Refuse(state, 2);
+    if (TrimBlanks(input.Expression).empty()) return Refuse(state, 2);
     const std::u16string call = input.Name + u"(";
     if (ContainsText(call, input.Expression)) return Refuse(state, 10);
-    if (!Trim(state.CustomFunctionNames).empty() && AnySlotCalls(state, call)) return Refuse(state, 10);
+    if (!TrimBlanks(state.CustomFunctionNames).empty() && AnySlotCalls(state, call)) return Refuse(state, 10);
     return true;
 }
 
 // The checks and changes of an update of slot `i`; false leaves the number to report in ErrorNumber.
 bool ApplyUpdate(EngineState& state, long i, const CustomFunctionInput& input) {
     if (i == 0) return false;
-    if (Trim(input.Expression).empty()) return Refuse(state, 2);
+    if (TrimBlanks(input.Expression).empty()) return Refuse(state, 2);
     const std::u16string call = input.Name + u"(";
     if (ContainsText(call, input.Expression)) return Refuse(state, 10);
     // The slot's own old body takes part: a function that another calls can't change.
-    if (!Trim(state.CustomFunctionNames).empty() && AnySlotCalls(state, call)) return Refuse(state, 10);
+    if (!TrimBlanks(state.CustomFunctionNames).empty() && AnySlotCalls(state, call)) return Refuse(state, 10);
     CustomFunctionEntry& entry = state.CustomFunctionTable[i];
-    const std::u16string parameterText = Trim(input.ParameterText);
+    const std::u16string parameterText(TrimBlanks(input.ParameterText));
     // A blank list keeps the old Parameters in the slot.
     if (!parameterText.empty() && !FillParameters(entry.Parameters, parameterText)) return false;
     entry.Name = input.Name;
@@ -85,16 +86,16 @@ bool ApplyUpdate(EngineState& state, long i, const CustomFunctionInput& input) {
 }  // namespace
 
 void NormaliseCustomFunctionInput(CustomFunctionInput& input) {
-    input.Name = LowerCase(Trim(input.Name));
-    input.Expression = LowerCase(Trim(input.Expression));
-    input.ParameterText = LowerCase(Trim(input.ParameterText));
-    input.Description = LowerCase(Trim(input.Description));
+    input.Name = AsciiLower(TrimBlanks(input.Name));
+    input.Expression = AsciiLower(TrimBlanks(input.Expression));
+    input.ParameterText = AsciiLower(TrimBlanks(input.ParameterText));
+    input.Description = AsciiLower(TrimBlanks(input.Description));
 }
 
 std::int32_t FindCustomFunctionIndex(EngineState& state, std::u16string_view name) {
-    state.CustomFunctionNames = LowerCase(Trim(state.CustomFunctionNames));
+    state.CustomFunctionNames = AsciiLower(TrimBlanks(state.CustomFunctionNames));
     const std::u16string& names = state.CustomFunctionNames;
-    const std::size_t p = FindText(names, u"{" + LowerCase(Trim(name)) + u"}");
+    const std::size_t p = FindText(names, u"{" + AsciiLower(TrimBlanks(name)) + u"}");
     if (p <= 1) return static_cast<std::int32_t>(p);
     return static_cast<std::int32_t>(CountClosingBraces(std::u16string_view(names).substr(0, p - 1)) + 1);
 }
@@ -103,7 +104,7 @@ bool AddCustomFunction(EngineState& state, CustomFunctionInput input) {
     NormaliseCustomFunctionInput(input);
     const std::u16string savedNames = state.CustomFunctionNames;
     auto& table = state.CustomFunctionTable;
-    if (Trim(state.CustomFunctionNames).empty()) table.Assign(std::vector<CustomFunctionEntry>(1));
+    if (TrimBlanks(state.CustomFunctionNames).empty()) table.Assign(std::vector<CustomFunctionEntry>(1));
     if (!PassesAddChecks(state, input)) return ReportRefusal(state);
 
     state.CustomFunctionNames += u"{" + input.Name + u"}";
@@ -113,10 +114,10 @@ bool AddCustomFunction(EngineState& state, CustomFunctionInput input) {
     CustomFunctionEntry& entry = table[n];
     entry.Name = input.Name;
     entry.Expression = input.Expression;
-    entry.ParameterText = Trim(input.ParameterText);
+    entry.ParameterText = TrimBlanks(input.ParameterText);
     entry.NoParameters = true;
     entry.Description = input.Description;
-    if (!Trim(input.ParameterText).empty()) {
+    if (!TrimBlanks(input.ParameterText).empty()) {
         entry.NoParameters = false;
         if (!FillParameters(entry.Parameters, input.ParameterText)) {
             state.CustomFunctionNames = savedNames;
@@ -153,7 +154,9 @@ bool RemoveCustomFunction(EngineState& state, const CustomFunctionEntry& entry) 
 
 bool DefineCustomFunction(EngineState& state, std::u16string_view name, std::u16string_view parameters,
                           std::u16string_view expression, std::u16string_view description) {
-    return AddCustomFunction(state, {Trim(name), Trim(parameters), Trim(expression), u"", Trim(description)});
+    const auto trimmed = [](std::u16string_view text) { return std::u16string(TrimBlanks(text)); };
+    return AddCustomFunction(state,
+                             {trimmed(name), trimmed(parameters), trimmed(expression), u"", trimmed(description)});
 }
 
 bool RedefineCustomFunction(EngineState& state, std::u16string_view name, std::u16string_view parameters,

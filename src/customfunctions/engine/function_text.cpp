@@ -2,21 +2,6 @@
 
 namespace tessarondel {
 
-std::u16string Trim(std::u16string_view text) {
-    const auto first = text.find_first_not_of(u' ');
-    if (first == std::u16string_view::npos) return {};
-    const auto last = text.find_last_not_of(u' ');
-    return std::u16string(text.substr(first, last - first + 1));
-}
-
-std::u16string LowerCase(std::u16string_view text) {
-    std::u16string lower(text);
-    for (char16_t& c : lower) {
-        if (c >= u'A' && c <= u'Z') c = static_cast<char16_t>(c + (u'a' - u'A'));
-    }
-    return lower;
-}
-
 std::size_t FindText(std::u16string_view text, std::u16string_view needle, std::size_t start) {
     if (start < 1 || start > text.size() + 1) return 0;
     const auto found = text.find(needle, start - 1);

@@ -7,13 +7,8 @@
 
 namespace tessarondel {
 
-// Text operations of the custom function code, with the design's 1-based
-// positions where positions are exchanged.
-
-// Removes blanks (code 32) at both ends, nothing else.
-std::u16string Trim(std::u16string_view text);
-
-std::u16string LowerCase(std::u16string_view text);
+// Searching, replacing and splitting texts, with 1-based positions where
+// positions are exchanged. Trimming and case are in numbers/text_rules.h.
 
 // 1-based position of `needle` in `text`, searching from `start` (1-based); 0 when absent.
 std::size_t FindText(std::u16string_view text, std::u16string_view needle, std::size_t start = 1);

@@ -1,0 +1,319 @@
+#include "customfunctions/engine/function_table.h"
+
+#include <gtest/gtest.h>
+
+#include "engine_fixture.h"
+#include "numbers/run_failure.h"
+
+namespace tessarondel {
+namespace {
+
+using testing::Definition;
+using testing::EngineFixture;
+
+struct AddRow {
+    const char* name;
+    std::vector<Definition> before;
+    Definition added;
+    bool accepted;
+    int errorNumber;  // ErrorNumber afterwards; the number before the add is 4
+};
+
+class AddCustomFunctionTest : public ::testing::TestWithParam<AddRow> {};
+
+TEST_P(AddCustomFunctionTest, ChecksInOrder) {
+    const AddRow& row = GetParam();
+    EngineFixture engine;
+    engine.DefineAll(row.before);
+    const std::u16string namesBefore = engine.state.CustomFunctionNames;
+    engine.state.ErrorNumber = 4;
+    engine.state.ShowErrorBox = true;
+    EXPECT_EQ(DefineCustomFunction(engine.state, row.added.name, row.added.parameters, row.added.body, u""),
+              row.accepted);
+    EXPECT_EQ(engine.state.ErrorNumber, row.errorNumber);
+    if (row.accepted) {
+        EXPECT_TRUE(engine.boxes.empty());
+        return;
+    }
+    EXPECT_EQ(engine.state.CustomFunctionNames, namesBefore);
+    EXPECT_TRUE(engine.state.ErrorFlag);
+    ASSERT_EQ(engine.boxes.size(), 1u);
+    const std::string prefix = "ErrNum:" + std::to_string(row.errorNumber) + "\r\n";
+    EXPECT_EQ(ToUtf8(engine.boxes[0]).substr(0, prefix.size()), prefix);
+}
+
+const std::vector<Definition> Area = {{u"area", u"r", u"pi*r^2"}};
+
+INSTANTIATE_TEST_SUITE_P(
+    Refusals, AddCustomFunctionTest,
+    ::testing::Values(AddRow{"BlankName", {}, {u"  ", u"", u""}, false, 8},
+                      AddRow{"InsideMax", {}, {u"a", u"", u"1"}, false, 9},
+                      AddRow{"InsideSum", {}, {u"s", u"", u"1"}, false, 9},
+                      AddRow{"InsideInt", {}, {u"in", u"", u"1"}, false, 9},
+                      AddRow{"InsideFac", {}, {u"f", u"", u"1"}, false, 9},
+                      AddRow{"InsideExp", {}, {u"x", u"", u"1"}, false, 9},
+                      AddRow{"InsideTan", {}, {u"ta", u"", u"1"}, false, 9},
+                      AddRow{"ConstantE", {}, {u"E", u"", u"1"}, false, 9},
+                      AddRow{"ConstantPi", {}, {u"pi", u"", u"1"}, false, 9},
+                      AddRow{"WordOperator", {}, {u"or", u"", u"1"}, false, 9},
+                      AddRow{"AliasPart", {}, {u"ator", u"", u"1"}, false, 9},
+                      AddRow{"CommaOfTheLists", {}, {u",", u"", u"1"}, false, 9},
+                      AddRow{"PartOfCustomName", Area, {u"are", u"x", u"x"}, false, 9},
+                      AddRow{"SameName", Area, {u"AREA", u"x", u"x"}, false, 9},
+                      AddRow{"ReservedBeforeBlankBody", {}, {u"max", u"", u" "}, false, 9},
+                      AddRow{"BlankBody", {}, {u"j", u"x", u"  "}, false, 2},
+                      AddRow{"DirectRecursion", {}, {u"j", u"x", u"j(x)+1"}, false, 10},
+                      AddRow{"TextualRecursion", {}, {u"k", u"x", u"kk(x)+1"}, false, 10},
+                      AddRow{"CalledByAnEarlierBody", {{u"jj", u"x", u"k(x)*2"}}, {u"k", u"x", u"x"}, false, 10},
+                      AddRow{"UpperCaseCallInBody", {{u"jj", u"x", u"K(x)*2"}}, {u"k", u"x", u"x"}, false, 10},
+                      AddRow{"BlankParameterPiece", {}, {u"j", u"a,,b", u"a+b"}, false, 4},
+                      AddRow{"TrailingComma", Area, {u"j", u"a,b,", u"a+b"}, false, 4}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+INSTANTIATE_TEST_SUITE_P(
+    Accepted, AddCustomFunctionTest,
+    ::testing::Values(AddRow{"Log2", {}, {u"log2", u"x", u"log(x)/log(2)"}, true, 4},
+                      AddRow{"LetterJ", {}, {u"j", u"", u"1"}, true, 4},
+                      AddRow{"LettersKWYZ", {{u"k", u"", u"1"}, {u"w", u"", u"1"}, {u"y", u"", u"1"}}, {u"z", u"", u"1"},
+                             true, 4},
+                      AddRow{"Underscore", {}, {u"_", u"", u"1"}, true, 4},
+                      AddRow{"ExtendsCustomName", Area, {u"area2", u"x", u"x"}, true, 4},
+                      AddRow{"NameWithBlank", {}, {u"my fn", u"x", u"x+1"}, true, 4},
+                      AddRow{"DigitLedName", {}, {u"2k", u"x", u"x"}, true, 4},
+                      AddRow{"SpacedCallEscapesTheTest", {}, {u"j", u"", u"j (1)"}, true, 4}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(AddCustomFunction, StoresLowerCaseTrimmedFieldsAndTheParameters) {
+    EngineFixture engine;
+    ASSERT_TRUE(DefineCustomFunction(engine.state, u" Hyp ", u" A , B ", u" S=A^2+B^2,SQRT(S) ", u" Long "));
+    EXPECT_EQ(engine.state.CustomFunctionNames, u"{hyp}");
+    const CustomFunctionEntry& hyp = engine.Entry(u"HYP");
+    EXPECT_EQ(hyp.Name, u"hyp");
+    EXPECT_EQ(hyp.ParameterText, u"a , b");
+    EXPECT_EQ(hyp.Expression, u"s=a^2+b^2,sqrt(s)");
+    EXPECT_EQ(hyp.Description, u"long");
+    EXPECT_FALSE(hyp.NoParameters);
+    ASSERT_EQ(hyp.Parameters.UpperBound(), 1);
+    EXPECT_EQ(hyp.Parameters[0].Name, u"a");
+    EXPECT_EQ(hyp.Parameters[1].Name, u"b");
+    EXPECT_EQ(hyp.Parameters[1].Value, u"0");
+    EXPECT_EQ(hyp.CompiledBody, u"s={a}^2+{b}^2,sqrt(s)");
+}
+
+TEST(AddCustomFunction, ASuccessLeavesErrorFlagAsItFoundIt) {
+    EngineFixture engine;
+    engine.state.ErrorFlag = true;
+    EXPECT_TRUE(DefineCustomFunction(engine.state, u"j", u"", u"1", u""));
+    EXPECT_TRUE(engine.state.ErrorFlag);
+    engine.state.ErrorFlag = false;
+    EXPECT_TRUE(DefineCustomFunction(engine.state, u"k", u"", u"1", u""));
+    EXPECT_FALSE(engine.state.ErrorFlag);
+}
+
+TEST(AddCustomFunction, ARefusalIsReportedEvenAfterAnEarlierError) {
+    EngineFixture engine;
+    engine.state.ShowErrorBox = true;
+    engine.state.ErrorFlag = true;
+    EXPECT_FALSE(DefineCustomFunction(engine.state, u"pi", u"", u"1", u""));
+    ASSERT_EQ(engine.boxes.size(), 1u);
+    EXPECT_EQ(engine.boxes[0], u"ErrNum:9\r\nErrInformation:Redefine the custom functions!");
+}
+
+struct MarkRow {
+    const char* name;
+    const char16_t* parameters;
+    const char16_t* body;
+    const char16_t* compiled;
+};
+
+class CompileBodyTest : public ::testing::TestWithParam<MarkRow> {};
+
+TEST_P(CompileBodyTest, MarksWholeNamesBetweenDelimiters) {
+    EngineFixture engine;
+    ASSERT_TRUE(DefineCustomFunction(engine.state, u"j", GetParam().parameters, GetParam().body, u""));
+    EXPECT_EQ(ToUtf8(engine.Entry(u"j").CompiledBody), ToUtf8(GetParam().compiled));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Parameters, CompileBodyTest,
+    ::testing::Values(MarkRow{"BodyIsTheName", u"x", u"x", u"{x}"}, MarkRow{"Both", u"x", u"x+x", u"{x}+{x}"},
+                      MarkRow{"OnlyTheLast", u"x", u"xx+x", u"xx+{x}"},
+                      MarkRow{"BlanksHideBoth", u"x,y", u"x + y", u"x + y"},
+                      MarkRow{"NoBlanks", u"x,y", u"x+y", u"{x}+{y}"},
+                      MarkRow{"LinedUpBrackets", u"x", u"( x )", u"( x )"},
+                      MarkRow{"OneLongerThanTheBody", u"ab", u"7", u"{ab}"},
+                      MarkRow{"NotInsideAFunctionName", u"x", u"max(x)", u"max({x})"},
+                      MarkRow{"ShadowsAFunction", u"x", u"x(1)", u"{x}(1)"},
+                      MarkRow{"SecondOfTheSameName", u"x,x", u"x+x", u"{x}+{x}"},
+                      MarkRow{"CommaList", u"x", u"x,x,x", u"{x},{x},{x}"},
+                      MarkRow{"AtTheEnd", u"x", u"2*x", u"2*{x}"},
+                      MarkRow{"Worked", u"a,b", u"s=a^2+b^2,sqrt(s)", u"s={a}^2+{b}^2,sqrt(s)"},
+                      MarkRow{"NoParameters", u"", u"x+1", u"x+1"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(FindCustomFunctionIndex, CountsTheClosingBracesBeforeTheName) {
+    EngineFixture engine;
+    engine.DefineAll({{u"j", u"", u"1"}, {u"area", u"", u"2"}, {u"w", u"", u"3"}});
+    EXPECT_EQ(FindCustomFunctionIndex(engine.state, u" W "), 3);
+    EXPECT_EQ(FindCustomFunctionIndex(engine.state, u"area"), 2);
+    EXPECT_EQ(FindCustomFunctionIndex(engine.state, u"j"), 1);
+    EXPECT_EQ(FindCustomFunctionIndex(engine.state, u"are"), 0);
+}
+
+struct UpdateRow {
+    const char* name;
+    Definition redefined;
+    int errorNumber;  // 4 was the number before: "no new number"
+};
+
+class UpdateRefusalTest : public ::testing::TestWithParam<UpdateRow> {};
+
+TEST_P(UpdateRefusalTest, RefusesAndKeepsTheOldSlot) {
+    EngineFixture engine;
+    engine.DefineAll({{u"j", u"a,b", u"a+b"}, {u"jj", u"", u"1"}, {u"k", u"x", u"jj(x)"}});
+    engine.state.ErrorNumber = 4;
+    const UpdateRow& row = GetParam();
+    EXPECT_FALSE(RedefineCustomFunction(engine.state, row.redefined.name, row.redefined.parameters,
+                                        row.redefined.body, u""));
+    EXPECT_EQ(engine.state.ErrorNumber, row.errorNumber);
+    EXPECT_TRUE(engine.state.ErrorFlag);
+    const CustomFunctionEntry& j = engine.Entry(u"j");
+    EXPECT_EQ(j.Expression, u"a+b");
+    EXPECT_EQ(j.CompiledBody, u"{a}+{b}");
+    EXPECT_EQ(j.Parameters.UpperBound(), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Refusals, UpdateRefusalTest,
+                         ::testing::Values(UpdateRow{"UnknownName", {u"zz", u"x", u"x"}, 4},
+                                           UpdateRow{"BlankBody", {u"j", u"x", u" "}, 2},
+                                           UpdateRow{"DirectRecursion", {u"j", u"x", u"j(x)"}, 10},
+                                           UpdateRow{"CalledByAnotherBody", {u"jj", u"", u"2"}, 10},
+                                           UpdateRow{"BlankParameterPiece", {u"j", u"x,,y", u"x"}, 4}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(UpdateCustomFunction, ABlankParameterListKeepsTheOldParameters) {
+    EngineFixture engine;
+    engine.DefineAll({{u"k", u"a,b", u"a+b"}});
+    ASSERT_TRUE(RedefineCustomFunction(engine.state, u"K", u"  ", u"5", u"New"));
+    const CustomFunctionEntry& k = engine.Entry(u"k");
+    EXPECT_TRUE(k.NoParameters);
+    EXPECT_EQ(k.Parameters.UpperBound(), 1);
+    EXPECT_EQ(k.CompiledBody, u"5");
+    EXPECT_EQ(k.Description, u"new");
+}
+
+TEST(UpdateCustomFunction, BeforeAnyAddTheTableHasNoSlots) {
+    EngineFixture engine;
+    EXPECT_THROW(RedefineCustomFunction(engine.state, u"j", u"", u"1", u""), RunFailure);
+    EXPECT_THROW(DropCustomFunction(engine.state, u"j"), RunFailure);
+    EXPECT_TRUE(engine.boxes.empty());
+    EXPECT_FALSE(engine.state.ErrorFlag);
+}
+
+TEST(DropCustomFunction, LeavesTheLastSlotBehindAsAStaleCopy) {
+    EngineFixture engine;
+    engine.DefineAll({{u"j", u"", u"1"}, {u"k", u"", u"2"}, {u"w", u"", u"3"}});
+    EXPECT_TRUE(DropCustomFunction(engine.state, u"K"));
+    EXPECT_EQ(engine.state.CustomFunctionNames, u"{j}{w}");
+    ASSERT_EQ(engine.state.CustomFunctionTable.UpperBound(), 3);
+    EXPECT_EQ(engine.state.CustomFunctionTable[2].Name, u"w");
+    EXPECT_EQ(engine.state.CustomFunctionTable[3].Name, u"w");
+}
+
+TEST(DropCustomFunction, AStaleBodyStillRefusesTheFunctionItCalled) {
+    EngineFixture engine;
+    engine.DefineAll({{u"j", u"", u"1"}, {u"k", u"x", u"zz(x)"}});
+    ASSERT_TRUE(DropCustomFunction(engine.state, u"k"));
+    EXPECT_FALSE(DefineCustomFunction(engine.state, u"zz", u"x", u"x", u""));
+    EXPECT_EQ(engine.state.ErrorNumber, 10);
+    // The next add resizes the table and the stale slot goes.
+    engine.DefineAll({{u"w", u"", u"3"}, {u"zz", u"x", u"x"}});
+}
+
+TEST(DropCustomFunction, WithNoNameLeftTheNextAddClearsEverything) {
+    EngineFixture engine;
+    engine.DefineAll({{u"k", u"x", u"zz(x)"}});
+    ASSERT_TRUE(DropCustomFunction(engine.state, u"k"));
+    EXPECT_FALSE(DropCustomFunction(engine.state, u"k"));
+    engine.DefineAll({{u"zz", u"x", u"x"}});
+    EXPECT_EQ(engine.state.CustomFunctionTable.UpperBound(), 1);
+}
+
+TEST(DropCustomFunction, ACallerKeepsTheDroppedNameTaken) {
+    EngineFixture engine;
+    engine.DefineAll({{u"j", u"x", u"x+1"}, {u"k", u"x", u"j(x)*2"}});
+    ASSERT_TRUE(DropCustomFunction(engine.state, u"j"));
+    EXPECT_EQ(engine.state.CustomFunctionNames, u"{k}");
+    EXPECT_FALSE(DefineCustomFunction(engine.state, u"j", u"x", u"x", u""));
+    EXPECT_EQ(engine.state.ErrorNumber, 10);
+}
+
+TEST(DropCustomFunction, AnUnknownNameTakesSlotZeroAndShiftsEveryEntry) {
+    EngineFixture engine;
+    engine.DefineAll({{u"j", u"", u"1"}, {u"k", u"", u"2"}});
+    EXPECT_TRUE(DropCustomFunction(engine.state, u"zz"));
+    EXPECT_EQ(engine.state.CustomFunctionNames, u"{j}{k}");
+    // Out of step from now on: each name reaches the function behind it.
+    EXPECT_EQ(engine.Entry(u"j").Name, u"k");
+    EXPECT_EQ(engine.state.CustomFunctionTable[0].Name, u"j");
+}
+
+struct ListRow {
+    const char* name;
+    const char16_t* lines;
+    const char16_t* body;
+};
+
+class PrepareExpressionListTest : public ::testing::TestWithParam<ListRow> {};
+
+TEST_P(PrepareExpressionListTest, StripsNotesAndJoinsLines) {
+    EXPECT_EQ(ToUtf8(PrepareExpressionList(GetParam().lines)), ToUtf8(GetParam().body));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, PrepareExpressionListTest,
+    ::testing::Values(ListRow{"Worked", u"s=a^2+b^2 ' squares\r\nsqrt(s)", u"s=a^2+b^2,sqrt(s)"},
+                      ListRow{"BlankNoteAndTabLinesDropped", u"a+b\r\n'note\r\n\r\n\t\r\n  \r\na*b\r\n",
+                              u"a+b,a*b"},
+                      ListRow{"TwoTabsStay", u"1\r\n\t\t", u"1,\t\t"},
+                      ListRow{"LoneLineFeedStaysInside", u"1\n2", u"1\n2"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(PrepareExpressionList, NothingButNotesIsTheFailure) {
+    for (const char16_t* lines : {u"", u"' only a note", u"\r\n  \r\n'x\r\n\t"}) {
+        SCOPED_TRACE(ToUtf8(lines));
+        EXPECT_THROW(PrepareExpressionList(lines), RunFailure);
+    }
+}
+
+TEST(DefineDocument, JoinsTheLinesAndTurnsTheBoxOff) {
+    EngineFixture engine;
+    engine.state.ShowErrorBox = true;
+    const CustomFunctionDocument hyp{u"Hyp", u"a, b", u"s=a^2+b^2 ' squares\r\nsqrt(s)\r\n", u"Length\r\n"};
+    EXPECT_TRUE(DefineDocument(engine.state, hyp));
+    EXPECT_FALSE(engine.state.ShowErrorBox);
+    EXPECT_EQ(engine.Entry(u"hyp").Expression, u"s=a^2+b^2,sqrt(s)");
+    // The same name again is refused silently.
+    EXPECT_FALSE(DefineDocument(engine.state, hyp));
+    EXPECT_EQ(engine.state.ErrorNumber, 9);
+    EXPECT_TRUE(engine.boxes.empty());
+}
+
+TEST(DefineDocument, NotesOnlyEndQuietly) {
+    EngineFixture engine;
+    engine.state.ErrorNumber = 3;
+    EXPECT_FALSE(DefineDocument(engine.state, {u"j", u"", u"' nothing\r\n\r\n", u""}));
+    EXPECT_EQ(engine.state.ErrorNumber, 3);
+    EXPECT_FALSE(engine.state.ErrorFlag);
+    EXPECT_EQ(engine.state.CustomFunctionNames, u"");
+}
+
+TEST(DefineDocument, LineEndsInNameAndParametersBecomeBlanks) {
+    EngineFixture engine;
+    EXPECT_TRUE(DefineDocument(engine.state, {u"my\r\nfn", u"a,\r\nb", u"a+b", u""}));
+    EXPECT_EQ(engine.state.CustomFunctionNames, u"{my fn}");
+    EXPECT_EQ(engine.Entry(u"my fn").Parameters[1].Name, u"b");
+}
+
+}  // namespace
+}  // namespace tessarondel
