@@ -21,8 +21,8 @@ public:
             char name[16];
             std::snprintf(name, sizeof name, "q%04d", k);
             const std::u16string functionName(name, name + 5);
-            WriteFunctionDocument(path_, {functionName, u"a, b", u"h=a^2+b^2 ' squares\r\nsqrt(h)",
-                                          u"A function of the benchmark"});
+            WriteFunctionDocument(
+                path_, {functionName, u"a, b", u"h=a^2+b^2 ' squares\r\nsqrt(h)", u"A function of the benchmark"});
         }
     }
     ~DocumentFolder() { std::filesystem::remove_all(path_); }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "cli/json_protocol.h"
+#include "customfunctions/cfd_document.h"
 #include "engine/engine.h"
 #include "engine/text_codec.h"
 #include "numbers/base_display.h"
@@ -17,8 +18,8 @@ namespace {
 constexpr const char* VersionText = "1.2.6688 Build 1228";
 
 constexpr const char* UsageText =
-    "Usage: tessarondel-cli [--round N] [--base bin|oct|dec|hex] [--complement] [EXPR...]\n"
-    "       tessarondel-cli --json\n"
+    "Usage: tessarondel-cli [--round N] [--base bin|oct|dec|hex] [--complement] [--functions DIR] [EXPR...]\n"
+    "       tessarondel-cli [--functions DIR] --json\n"
     "\n"
     "Evaluates each EXPR in order in one engine and prints one result per line.\n"
     "Without EXPR, reads one expression per line from standard input.\n"
@@ -26,6 +27,8 @@ constexpr const char* UsageText =
     "  --round N   round every intermediate result to N places (0 to 22; -1 is off)\n"
     "  --base B    show every result as the display shows it in base B: bin, oct, dec or hex\n"
     "  --complement  show negative results in 32-bit complement form in bin, oct and hex\n"
+    "  --functions DIR  define the custom functions of the .cfd documents in DIR first\n"
+    "                   (default: the folder the desktop program uses)\n"
     "  --json      answer JSON Lines requests from standard input\n"
     "  --help      show this help\n"
     "  --version   show the version\n"
@@ -40,6 +43,7 @@ struct Options {
     int approximateBits = -1;
     int baseIndex = BaseIndexDecimal;
     bool complement = false;
+    std::optional<std::string> functionFolder;
     std::vector<std::string> expressions;
 };
 
@@ -84,6 +88,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::o
             ++i;
         } else if (arg == "--complement") {
             options.complement = true;
+        } else if (arg == "--functions" && i + 1 < args.size()) {
+            options.functionFolder = args[++i];
         } else {
             err << "tessarondel-cli: bad option: " << arg << "\n" << UsageText;
             return std::nullopt;
@@ -113,10 +119,18 @@ bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::st
     return good;
 }
 
-int RunExpressions(const Options& options, const LineReader& readLine, std::ostream& out) {
+// Defines the functions of the folder's documents, as the desktop program does at start.
+void LoadFunctions(EngineState& engine, const Options& options, std::ostream& err) {
+    const std::filesystem::path folder =
+        options.functionFolder ? std::filesystem::path(*options.functionFolder) : ResolveFunctionFolder();
+    if (LoadFunctionFolder(engine, folder).failed) err << "tessarondel-cli: " << ToUtf8(LoadFailedMessage) << '\n';
+}
+
+int RunExpressions(const Options& options, const LineReader& readLine, std::ostream& out, std::ostream& err) {
     EngineState engine;
     engine.ApproximateBits = options.approximateBits;
     engine.ErrorBoxTitle = u"Tessarondel Error Information";
+    LoadFunctions(engine, options, err);
     bool allGood = true;
     if (!options.expressions.empty()) {
         for (const auto& expression : options.expressions) {
@@ -128,8 +142,9 @@ int RunExpressions(const Options& options, const LineReader& readLine, std::ostr
     return allGood ? CliAllGood : CliSomeFailed;
 }
 
-int RunJson(const LineReader& readLine, std::ostream& out) {
+int RunJson(const Options& options, const LineReader& readLine, std::ostream& out, std::ostream& err) {
     JsonSession session;
+    LoadFunctions(session.engine, options, err);
     RequestTable table;
     RegisterAllRequests(table);
     while (const auto line = readLine()) {
@@ -153,7 +168,7 @@ int RunCli(const std::vector<std::string>& args, const LineReader& readLine, std
         out << VersionText << '\n';
         return CliAllGood;
     }
-    return options->json ? RunJson(readLine, out) : RunExpressions(*options, readLine, out);
+    return options->json ? RunJson(*options, readLine, out, err) : RunExpressions(*options, readLine, out, err);
 }
 
 LineReader StreamLineReader(std::istream& in) {

@@ -33,8 +33,9 @@ using RequestTable = std::map<std::string, RequestHandler, std::less<>>;
 
 // The request sets; each lives in its own file. RegisterAllRequests fills a
 // table with every set.
-void RegisterEngineRequests(RequestTable& table);  // eval, clear, round
-void RegisterBaseRequests(RequestTable& table);    // tobase, show
+void RegisterEngineRequests(RequestTable& table);    // eval, clear, round
+void RegisterBaseRequests(RequestTable& table);      // tobase, show
+void RegisterFunctionRequests(RequestTable& table);  // define, redefine, document, drop, functions
 void RegisterAllRequests(RequestTable& table);
 
 // Answers one input line with one response line (without the line end).

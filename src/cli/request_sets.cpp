@@ -7,6 +7,7 @@ namespace tessarondel {
 void RegisterAllRequests(RequestTable& table) {
     RegisterEngineRequests(table);
     RegisterBaseRequests(table);
+    RegisterFunctionRequests(table);
 }
 
 }  // namespace tessarondel

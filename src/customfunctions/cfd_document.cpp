@@ -9,9 +9,9 @@
 #include <system_error>
 
 #include "customfunctions/engine/function_text.h"
-#include "numbers/text_rules.h"
 #include "customfunctions/windows1252.h"
 #include "engine/text_codec.h"
+#include "numbers/text_rules.h"
 
 namespace tessarondel {
 

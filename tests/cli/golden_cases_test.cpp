@@ -12,19 +12,6 @@
 namespace tessarondel {
 namespace {
 
-// Worked examples that need parts which have not landed yet. Each group
-// empties as its part arrives; a case listed here is skipped, never deleted.
-// The expansion also walks every expression with the token reader, which is
-// where a reader error such as 3 usually arises first.
-const std::set<std::string> kWaitingForCustomFunctions = {
-    "p11-lone-lf-err3",
-    "p31-blank-param-unmarked", "p31-noparam-with-text", "p31-empty-call-first", "p31-word-op-blank",
-    "p31-chain",                "p31-dollar-body-protects", "p31-bracketed-arg-count", "p31-body-error-word",
-    "p31-duplicate-param",      "p31-multiline-body",    "p31-neg-param",        "p31-dropped-callee",
-    "p33-textual-recursion",    "p33-area-are",          "p33-update-called",    "p33-update-blank-params",
-    "p33-update-params",        "p33-doc-multiline",     "p33-trimmed-name",
-};
-
 struct GoldenCase {
     std::string id;
     std::string why;
@@ -66,7 +53,6 @@ void ExpectFields(const json::Value& expected, const json::Value& response) {
 
 TEST_P(GoldenCases, ResponsesMatchTheTracedFields) {
     const GoldenCase& golden = GetParam();
-    if (kWaitingForCustomFunctions.count(golden.id)) GTEST_SKIP() << "needs the custom functions and their expansion";
     SCOPED_TRACE(golden.why);
     JsonSession session;
     RequestTable table;

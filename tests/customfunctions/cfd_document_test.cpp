@@ -64,20 +64,20 @@ INSTANTIATE_TEST_SUITE_P(
                        "[Expression List]", "y"}),
                  true, "k", "y", "y\r\n", ""},
         ParseRow{"LowerCaseDescriptionHeaderStaysInExpression",
-                 Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1",
-                       "[description]", "text"}),
+                 Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1", "[description]",
+                       "text"}),
                  true, "k", "", "1\r\n[description]\r\ntext\r\n", ""},
-        ParseRow{"SecondParameterLineIsLost",
-                 Crlf({Magic, "[Function Name]", "k", "", "kk", "[Parameter List]", "", "a", "b", "[Expression List]",
-                       "a"}),
-                 true, "k", "a", "a\r\n", ""},
+        ParseRow{
+            "SecondParameterLineIsLost",
+            Crlf({Magic, "[Function Name]", "k", "", "kk", "[Parameter List]", "", "a", "b", "[Expression List]", "a"}),
+            true, "k", "a", "a\r\n", ""},
         ParseRow{"LineOfSpacesComesBackEmpty",
                  Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1", "    ", "2",
                        "[Description]", "  d  "}),
                  true, "k", "", "1\r\n\r\n2\r\n", "d\r\n"},
         ParseRow{"LoneLineFeedStaysInTheLine",
-                 Magic + "\r\n[Function Name]\r\nk\r\n[Parameter List]\r\n[Expression List]\r\n1\n2\r\n", true, "k",
-                 "", "1\n2\r\n", ""},
+                 Magic + "\r\n[Function Name]\r\nk\r\n[Parameter List]\r\n[Expression List]\r\n1\n2\r\n", true, "k", "",
+                 "1\n2\r\n", ""},
         ParseRow{"CarriageReturnAloneEndsALine",
                  Magic + "\r[Function Name]\rk\r[Parameter List]\r\r[Expression List]\r1\r[Description]\rd", true, "k",
                  "", "1\r\n", "d\r\n"},
@@ -85,8 +85,8 @@ INSTANTIATE_TEST_SUITE_P(
                  Crlf({Magic, "[Function Name]", "[Expression List]", "1", "[Parameter List]", "x", "[Description]"}),
                  false},
         ParseRow{"DescriptionHeaderInsideExpressionEndsIt",
-                 Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1",
-                       "[Description]", "[Description]", "2"}),
+                 Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1", "[Description]",
+                       "[Description]", "2"}),
                  true, "k", "", "1\r\n", "[Description]\r\n2\r\n"},
         ParseRow{"Windows1252Bytes",
                  Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]",
@@ -108,16 +108,15 @@ TEST(Windows1252, CharactersOutsideTheCodePageBecomeQuestionMarks) {
 
 TEST(FormatDocument, WritesTheTenItemsWithCrLf) {
     const CustomFunctionDocument hyp{u"Hyp", u"a, b", u"s=a^2+b^2 ' squares\r\nsqrt(s)", u"Length of the hypotenuse"};
-    EXPECT_EQ(FormatDocument(hyp), Crlf({Magic, "[Function Name]", "Hyp", "[Parameter List]", "a, b",
-                                         "[Expression List]", "s=a^2+b^2 ' squares", "sqrt(s)", "[Description]",
-                                         "Length of the hypotenuse"}));
+    EXPECT_EQ(FormatDocument(hyp),
+              Crlf({Magic, "[Function Name]", "Hyp", "[Parameter List]", "a, b", "[Expression List]",
+                    "s=a^2+b^2 ' squares", "sqrt(s)", "[Description]", "Length of the hypotenuse"}));
 }
 
 TEST(FormatDocument, TrimsBlanksAndWritesOneEmptyLineForNoDescription) {
     const CustomFunctionDocument document{u"  k ", u"", u" 1 ", u""};
-    EXPECT_EQ(FormatDocument(document),
-              Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1", "[Description]",
-                    ""}));
+    EXPECT_EQ(FormatDocument(document), Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "",
+                                              "[Expression List]", "1", "[Description]", ""}));
 }
 
 TEST(FormatDocument, EncodesInWindows1252) {

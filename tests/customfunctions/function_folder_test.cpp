@@ -1,3 +1,5 @@
+#include "customfunctions/function_folder.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -5,7 +7,6 @@
 #include <string>
 
 #include "customfunctions/cfd_document.h"
-#include "customfunctions/function_folder.h"
 #include "engine/text_codec.h"
 #include "temporary_folder.h"
 
@@ -84,8 +85,14 @@ TEST(ReadFunctionFolder, AHugeFileIsPassedOverWithoutReadingIt) {
 TEST(ParseDocument, BinaryGarbageNeverCrashes) {
     std::mt19937 random(20261122);
     std::uniform_int_distribution<int> byte(0, 255);
-    const std::string headers[] = {"%%Tessarondel Custom Function Document - 1.0", "[Function Name]",
-                                   "[Parameter List]", "[Expression List]", "[Description]", "\r", "\n", "\r\n"};
+    const std::string headers[] = {"%%Tessarondel Custom Function Document - 1.0",
+                                   "[Function Name]",
+                                   "[Parameter List]",
+                                   "[Expression List]",
+                                   "[Description]",
+                                   "\r",
+                                   "\n",
+                                   "\r\n"};
     for (int sample = 0; sample < 50; ++sample) {
         std::string bytes;
         while (bytes.size() < 20000) {
@@ -120,8 +127,8 @@ TEST(WriteFunctionDocument, RefusesNamesThatAreNoPlainFileName) {
     const fs::path folder = outer.Path() / "Custom Function";
     fs::create_directory(folder);
     fs::create_directory(outer.Path() / "sub");
-    const std::u16string names[] = {u"", u"   ", u".", u"..", u"../escape", u"sub/inner", u"/tmp/abs",
-                                    std::u16string(u"nul\0byte", 8)};
+    const std::u16string names[] = {u"",          u"   ",       u".",        u"..",
+                                    u"../escape", u"sub/inner", u"/tmp/abs", std::u16string(u"nul\0byte", 8)};
     for (const std::u16string& name : names) {
         SCOPED_TRACE(ToUtf8(name));
         EXPECT_FALSE(WriteFunctionDocument(folder, {name, u"", u"1", u""}));
@@ -161,9 +168,7 @@ struct FixPathRow {
 
 class FixPathTest : public ::testing::TestWithParam<FixPathRow> {};
 
-TEST_P(FixPathTest, HalvesDoubledSeparatorsWithoutRescanning) {
-    EXPECT_EQ(FixPath(GetParam().path), GetParam().fixed);
-}
+TEST_P(FixPathTest, HalvesDoubledSeparatorsWithoutRescanning) { EXPECT_EQ(FixPath(GetParam().path), GetParam().fixed); }
 
 INSTANTIATE_TEST_SUITE_P(Separators, FixPathTest,
                          ::testing::Values(FixPathRow{"ProgramInRoot", "//Custom Function", "/Custom Function"},
@@ -195,8 +200,7 @@ TEST(MakePath, GluesARelativePathToTheCurrentDirectory) {
 
 TEST(ChooseFunctionFolder, UsesTheFolderBesideTheProgramWhenItCanBeWritten) {
     TemporaryFolder program, data;
-    EXPECT_EQ(ChooseFunctionFolder(program.Path().string(), data.Path().string()),
-              program.Path() / "Custom Function");
+    EXPECT_EQ(ChooseFunctionFolder(program.Path().string(), data.Path().string()), program.Path() / "Custom Function");
     EXPECT_TRUE(fs::is_directory(program.Path() / "Custom Function"));
     EXPECT_TRUE(fs::is_empty(data.Path()));
 }

@@ -3,12 +3,12 @@
 #include <cstdint>
 #include <vector>
 
-#include "customfunctions/engine/failure_report.h"
 #include "customfunctions/engine/function_table.h"
 #include "customfunctions/engine/function_text.h"
-#include "numbers/text_rules.h"
-#include "customfunctions/engine/token_text_rules.h"
+#include "engine/errors.h"
+#include "engine/name_lists.h"
 #include "engine/token_reader.h"
+#include "numbers/text_rules.h"
 
 namespace tessarondel {
 
@@ -51,7 +51,7 @@ bool CutArguments(EngineState& state, std::u16string_view argumentText, std::vec
     const std::size_t last = parts.size() - 1;
     for (std::size_t k = 0; k <= last; ++k) {
         if (TrimBlanks(parts[k]).empty()) {
-            state.ErrorNumber = 5;
+            state.ErrorNumber = InvalidParameters;
             return false;
         }
         int opening = CountChar(state, parts[k], u'(');
@@ -82,7 +82,7 @@ bool BuildReplacement(EngineState& state, const std::u16string& token, std::u16s
     CustomFunctionEntry entry = state.CustomFunctionTable[FindCustomFunctionIndex(state, token)];
     if (entry.NoParameters) {
         if (!argumentText.empty()) {
-            state.ErrorNumber = 5;
+            state.ErrorNumber = InvalidParameters;
             return false;
         }
         // No brackets around a body without parameters: `1+2` called in `j()*2` gives 1+2*2.
@@ -103,7 +103,7 @@ bool ExpandNextCall(EngineState& state, std::u16string& text, SlotList<std::u16s
         if (!IsCustomFunctionName(state, token)) continue;
         const CallSite site = FindCallSite(text, token);
         if (site.open == 0 || site.close == 0) {
-            if (site.open != 0) state.ErrorNumber = 1;
+            if (site.open != 0) state.ErrorNumber = BracketsMismatch;
             refused = true;
             return false;
         }
@@ -133,23 +133,20 @@ std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text
     // Keeps its contents from one call to the next in this pass: an empty call
     // after a good one passes the bound test and is refused by its blankness.
     SlotList<std::u16string> arguments;
-    try {
+    const bool finished = RunWithFailureHandler(state, [&] {
         state.TokenStream.Assign(text);
         state.ExpansionScan = true;
         bool refused = false;
         // After each replacement the scan starts again at the first character.
         while (ExpandNextCall(state, text, arguments, refused)) state.TokenStream.Assign(text);
         if (refused) state.ReportError(state.ErrorNumber);
-        return text;
-    } catch (...) {
-        ReportCaughtFailure(state);
-        return {};
-    }
+    });
+    return finished ? text : std::u16string();
 }
 
 bool SplitCallArguments(EngineState& state, std::u16string_view argumentText, long parameterUpperBound,
                         SlotList<std::u16string>& arguments, const CustomFunctionEntry& entry) {
-    state.ErrorNumber = 99;
+    state.ErrorNumber = UnknownError;
     bool failed = false;
     try {
         if (!argumentText.empty()) {
@@ -160,11 +157,11 @@ bool SplitCallArguments(EngineState& state, std::u16string_view argumentText, lo
         // Before any call of this pass filled `arguments`, this bound is the fault below.
         if (arguments.UpperBound() != parameterUpperBound) {
             failed = true;
-            state.ErrorNumber = 5;
+            state.ErrorNumber = InvalidParameters;
         }
         if (TrimBlanks(argumentText).empty() == !entry.NoParameters) {
             failed = true;
-            state.ErrorNumber = 5;
+            state.ErrorNumber = InvalidParameters;
         }
         return !failed;
     } catch (...) {
@@ -175,10 +172,11 @@ bool SplitCallArguments(EngineState& state, std::u16string_view argumentText, lo
 
 std::u16string BindCustomFunctionBody(EngineState& state, CustomFunctionEntry& entry,
                                       const SlotList<std::u16string>& arguments) {
-    try {
+    std::u16string bound;
+    RunWithFailureHandler(state, [&] {
         if (arguments.UpperBound() != entry.Parameters.UpperBound()) {
-            state.ReportError(5);
-            return {};
+            state.ReportError(InvalidParameters);
+            return;
         }
         for (long k = 0; k <= arguments.UpperBound(); ++k) entry.Parameters[k].Value = arguments[k];
         std::u16string body = entry.CompiledBody;
@@ -188,13 +186,14 @@ std::u16string BindCustomFunctionBody(EngineState& state, CustomFunctionEntry& e
             body = ReplaceAll(body, u"{" + name + u"}", u"(" + std::u16string(TrimBlanks(parameter.Value)) + u")");
         }
         const std::u16string_view trimmed = TrimBlanks(body);
-        if (!trimmed.empty() && AsciiLower(trimmed) != u"error") return u"(" + body + u")";
-        state.ReportError(state.ErrorNumber);
-        return {};
-    } catch (...) {
-        ReportCaughtFailure(state);
-        return {};
-    }
+        if (!trimmed.empty() && AsciiLower(trimmed) != u"error") {
+            bound = u"(" + body + u")";
+        } else {
+            // The call goes on to be replaced by nothing, but the error stands.
+            state.ReportError(state.ErrorNumber);
+        }
+    });
+    return bound;
 }
 
 }  // namespace tessarondel

@@ -1,19 +1,20 @@
 // Marking the parameters of a body as {name}, so the expansion can bind them.
 #include <string>
 
-#include "customfunctions/engine/failure_report.h"
 #include "customfunctions/engine/function_table.h"
 #include "customfunctions/engine/function_text.h"
-#include "customfunctions/engine/token_text_rules.h"
+#include "engine/errors.h"
+#include "engine/name_lists.h"
 
 namespace tessarondel {
 
 namespace {
 
-// The character at 1-based `position`, the empty text outside the body.
-std::u16string_view CharAt(std::u16string_view body, long position) {
-    if (position < 1 || position > static_cast<long>(body.size())) return {};
-    return body.substr(static_cast<std::size_t>(position - 1), 1);
+// Whether the character at 1-based `position` is a delimiter; outside the
+// body there is the empty text, which counts as one.
+bool IsDelimiterAt(std::u16string_view body, long position) {
+    if (position < 1 || position > static_cast<long>(body.size())) return true;
+    return IsDelimiterChar(body[static_cast<std::size_t>(position - 1)]);
 }
 
 // One parameter's pass over the body. Positions are 1-based and 0 means "not
@@ -33,7 +34,7 @@ std::u16string MarkParameter(std::u16string body, std::u16string_view name) {
             if (L >= length()) {
                 body = braced;
                 pos = L + 3;
-            } else if (IsDelimiterChar(CharAt(body, L + 1))) {
+            } else if (IsDelimiterAt(body, L + 1)) {
                 body = braced + from(L + 1);
                 pos = L + 3;
             }
@@ -41,12 +42,11 @@ std::u16string MarkParameter(std::u16string body, std::u16string_view name) {
             if (pos == 0) {
                 body = braced;
                 pos = pos + L + 2;
-            } else if (IsDelimiterChar(CharAt(body, pos - 1))) {
+            } else if (IsDelimiterAt(body, pos - 1)) {
                 body = left(pos - 1) + braced;
                 pos = pos + L + 2;
             }
-        } else if (pos >= 1 && pos + L - 1 < length() && IsDelimiterChar(CharAt(body, pos - 1)) &&
-                   IsDelimiterChar(CharAt(body, pos + L))) {
+        } else if (pos >= 1 && pos + L - 1 < length() && IsDelimiterAt(body, pos - 1) && IsDelimiterAt(body, pos + L)) {
             body = left(pos - 1) + braced + from(pos + L);
             pos = pos + L + 2;
         }
@@ -61,15 +61,14 @@ void CompileCustomFunctionBody(EngineState& state, CustomFunctionEntry& entry) {
         entry.CompiledBody = entry.Expression;
         return;
     }
-    try {
+    // After a failure CompiledBody stays as it was.
+    RunWithFailureHandler(state, [&entry] {
         std::u16string body = entry.Expression;
         for (const CustomFunctionParameter& parameter : entry.Parameters.Items()) {
             body = MarkParameter(std::move(body), parameter.Name);
         }
         entry.CompiledBody = std::move(body);
-    } catch (...) {
-        ReportCaughtFailure(state);
-    }
+    });
 }
 
 }  // namespace tessarondel

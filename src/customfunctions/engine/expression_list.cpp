@@ -3,8 +3,8 @@
 
 #include "customfunctions/engine/function_table.h"
 #include "customfunctions/engine/function_text.h"
-#include "numbers/text_rules.h"
 #include "numbers/run_failure.h"
+#include "numbers/text_rules.h"
 
 namespace tessarondel {
 

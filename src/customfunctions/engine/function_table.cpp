@@ -3,8 +3,9 @@
 #include <vector>
 
 #include "customfunctions/engine/function_text.h"
+#include "engine/errors.h"
+#include "engine/name_lists.h"
 #include "numbers/text_rules.h"
-#include "customfunctions/engine/token_text_rules.h"
 
 namespace tessarondel {
 
@@ -51,25 +52,27 @@ bool FillParameters(SlotList<CustomFunctionParameter>& parameters, std::u16strin
 // The name is tested bare against the joined lists, so a name that is any part
 // of an entry (`a` of {max}, `are` of {area}) is refused.
 bool PassesAddChecks(EngineState& state, const CustomFunctionInput& input) {
-    if (TrimBlanks(input.Name).empty()) return Refuse(state, 8);
+    if (TrimBlanks(input.Name).empty()) return Refuse(state, InvalidName);
     std::u16string reserved(BuiltinFunctionList);
     reserved.append(AliasList).append(state.CustomFunctionNames).append(WordOperatorList).append(ConstantList);
-    if (ContainsText(input.Name, reserved)) return Refuse(state, 9);
-    if (TrimBlanks(input.Expression).empty()) return Refuse(state, 2);
+    if (ContainsText(input.Name, reserved)) return Refuse(state, RedefinedFunction);
+    if (TrimBlanks(input.Expression).empty()) return Refuse(state, EmptyExpression);
     const std::u16string call = input.Name + u"(";
-    if (ContainsText(call, input.Expression)) return Refuse(state, 10);
-    if (!TrimBlanks(state.CustomFunctionNames).empty() && AnySlotCalls(state, call)) return Refuse(state, 10);
+    if (ContainsText(call, input.Expression)) return Refuse(state, RecursiveFunctions);
+    if (!TrimBlanks(state.CustomFunctionNames).empty() && AnySlotCalls(state, call))
+        return Refuse(state, RecursiveFunctions);
     return true;
 }
 
 // The checks and changes of an update of slot `i`; false leaves the number to report in ErrorNumber.
 bool ApplyUpdate(EngineState& state, long i, const CustomFunctionInput& input) {
     if (i == 0) return false;
-    if (TrimBlanks(input.Expression).empty()) return Refuse(state, 2);
+    if (TrimBlanks(input.Expression).empty()) return Refuse(state, EmptyExpression);
     const std::u16string call = input.Name + u"(";
-    if (ContainsText(call, input.Expression)) return Refuse(state, 10);
+    if (ContainsText(call, input.Expression)) return Refuse(state, RecursiveFunctions);
     // The slot's own old body takes part: a function that another calls can't change.
-    if (!TrimBlanks(state.CustomFunctionNames).empty() && AnySlotCalls(state, call)) return Refuse(state, 10);
+    if (!TrimBlanks(state.CustomFunctionNames).empty() && AnySlotCalls(state, call))
+        return Refuse(state, RecursiveFunctions);
     CustomFunctionEntry& entry = state.CustomFunctionTable[i];
     const std::u16string parameterText(TrimBlanks(input.ParameterText));
     // A blank list keeps the old Parameters in the slot.
