@@ -115,7 +115,6 @@ bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::st
     } else {
         out << "Error: " << ToUtf8(engine.ErrorText) << '\n';
     }
-    out.flush();
     return good;
 }
 

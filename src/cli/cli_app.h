@@ -8,7 +8,8 @@
 
 namespace tessarondel {
 
-// Gives the next input line without its line end, or nullopt at the end.
+// Gives the next input line without its line end, or nullopt at the end. A
+// reader on a terminal flushes the output before it waits for the user.
 using LineReader = std::function<std::optional<std::string>()>;
 
 // Exit statuses of tessarondel-cli.

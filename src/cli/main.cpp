@@ -17,6 +17,7 @@ tessarondel::LineReader TerminalLineReader() {
 #ifdef TESSARONDEL_HAVE_EDITLINE
     if (isatty(STDIN_FILENO)) {
         return []() -> std::optional<std::string> {
+            std::cout.flush();
             char* line = readline("> ");
             if (!line) return std::nullopt;
             std::string text(line);
@@ -26,6 +27,12 @@ tessarondel::LineReader TerminalLineReader() {
         };
     }
 #endif
+    if (isatty(STDIN_FILENO)) {
+        return [reader = tessarondel::StreamLineReader(std::cin)]() {
+            std::cout.flush();
+            return reader();
+        };
+    }
     return tessarondel::StreamLineReader(std::cin);
 }
 

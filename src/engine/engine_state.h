@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "numbers/error_sink.h"
@@ -114,6 +115,9 @@ struct EngineState final : ErrorSink {
     std::vector<VariableSlot> VariableTable = std::vector<VariableSlot>(1);  // slot 0 is never used
     std::u16string VariableNames;                                              // "{x}{y}"
     std::u16string VariableListing;
+    // The NumberText of each slot's value as the last listing wrote it, so a
+    // listing formats only the values that changed since.
+    std::vector<std::pair<double, std::u16string>> ListedValueTexts;
 
     SlotList<CustomFunctionEntry> CustomFunctionTable;
     std::u16string CustomFunctionNames;  // "{hyp}{area}"

@@ -28,10 +28,10 @@ public:
     char16_t Behind() const { return done_.back(); }
     char16_t Last() const { return ahead_.empty() ? done_.back() : ahead_.front(); }
 
-    std::u16string AheadText(std::size_t count) const {
-        std::u16string text(count, u' ');
+    // Copies the next `count` unread characters into `text`.
+    void CopyAhead(std::size_t count, std::u16string& text) const {
+        text.resize(count);
         for (std::size_t i = 0; i < count; ++i) text[i] = Ahead(i);
-        return text;
     }
 
     void Advance(std::size_t count) {

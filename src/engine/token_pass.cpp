@@ -109,6 +109,7 @@ TokenCheck CheckToken(EngineState& state, const TokenContext& context, std::u16s
 // replacement itself, which is checked like any other text.
 bool RunTokenPass(EngineState& state, std::u16string& src) {
     SpliceText text(src);
+    std::u16string token;
     while (text.Remaining() > 0) {
         if (IsDelimiterChar(text.Ahead(0))) {
             text.Advance(1);
@@ -116,7 +117,7 @@ bool RunTokenPass(EngineState& state, std::u16string& src) {
         }
         std::size_t length = 1;
         while (length < text.Remaining() && !IsDelimiterChar(text.Ahead(length))) ++length;
-        const std::u16string token = text.AheadText(length);
+        text.CopyAhead(length, token);
         const TokenCheck check = CheckToken(state, TokenContext{text, length}, TrimBlanks(token));
         if (check.verdict == Verdict::Stop) return false;
         if (check.verdict == Verdict::Replace) {

@@ -63,12 +63,29 @@ int GetVariableSnapshot(EngineState& state, std::vector<VariableRecord>& list) {
     return static_cast<int>(count);
 }
 
+namespace {
+
+const std::u16string& ListedValueText(EngineState& state, std::size_t slot) {
+    auto& cache = state.ListedValueTexts;
+    if (cache.size() <= slot) cache.resize(slot + 1, {0.0, NumberText(0.0)});
+    auto& [value, text] = cache[slot];
+    if (value != state.VariableTable[slot].value) {
+        value = state.VariableTable[slot].value;
+        text = NumberText(value);
+    }
+    return text;
+}
+
+}  // namespace
+
 void BuildVariableListing(EngineState& state) {
     state.VariableListing.clear();
     RunIgnoringFailures([&] {
         for (std::size_t i = 1; i < state.VariableTable.size(); ++i) {
-            const VariableSlot& slot = state.VariableTable[i];
-            state.VariableListing.append(slot.name).append(u"\t=\t").append(NumberText(slot.value)).append(u"\r\n");
+            state.VariableListing.append(state.VariableTable[i].name)
+                .append(u"\t=\t")
+                .append(ListedValueText(state, i))
+                .append(u"\r\n");
         }
     });
 }

@@ -18,79 +18,99 @@ constexpr int SignificantDigits = 15;
 constexpr int MaxFixedPlaces = 15;
 
 // x rounded to 15 significant digits from its exact binary value:
-// the value is 0.<digits> * 10^(exponent + 1), trailing zeros dropped.
+// the value is d1.d2d3... * 10^exponent, trailing zeros dropped.
 struct RoundedDecimal {
     bool negative = false;
-    std::string digits;  // "0" for zero
-    int exponent = 0;    // power of ten of the first digit
+    std::array<char, 24> digits{};
+    int count = 0;     // 1 for zero
+    int exponent = 0;  // power of ten of the first digit
 };
 
 // Digits and exponent of a scientific text "-d.ddde+xx".
-RoundedDecimal ReadScientific(std::string_view text) {
+RoundedDecimal ReadScientific(const char* first, const char* last) {
     RoundedDecimal result;
-    std::size_t i = 0;
-    if (text[i] == '-') {
+    if (*first == '-') {
         result.negative = true;
-        ++i;
+        ++first;
     }
-    const std::size_t e = text.find('e');
-    for (; i < e; ++i) {
-        if (text[i] != '.') result.digits += text[i];
+    for (; *first != 'e'; ++first) {
+        if (*first != '.') result.digits[static_cast<std::size_t>(result.count++)] = *first;
     }
-    std::from_chars(text.data() + e + (text[e + 1] == '+' ? 2 : 1), text.data() + text.size(), result.exponent);
-    while (result.digits.size() > 1 && result.digits.back() == '0') result.digits.pop_back();
+    ++first;
+    if (*first == '+') ++first;
+    std::from_chars(first, last, result.exponent);
+    while (result.count > 1 && result.digits[static_cast<std::size_t>(result.count - 1)] == '0') --result.count;
     return result;
 }
 
 RoundedDecimal RoundTo15Digits(double x) {
-    if (x == 0) return RoundedDecimal{false, "0", 0};  // -0 formats as 0
+    if (x == 0) {  // -0 formats as 0
+        RoundedDecimal zero;
+        zero.digits[0] = '0';
+        zero.count = 1;
+        return zero;
+    }
     std::array<char, 64> buffer{};
     char* const first = buffer.data();
+    char* const last = first + buffer.size();
     // For a normal double the shortest text that reads back to x lies within
     // half a unit of its last bit, far less than half a unit of the 15th
     // digit; with at most 15 digits it is therefore x rounded to 15 digits.
     // Others are rounded from the exact value.
-    auto written = std::to_chars(first, first + buffer.size(), x, std::chars_format::scientific);
     if (std::isnormal(x)) {
-        RoundedDecimal shortest = ReadScientific(std::string_view(first, static_cast<std::size_t>(written.ptr - first)));
-        if (shortest.digits.size() <= SignificantDigits) return shortest;
+        const RoundedDecimal shortest = ReadScientific(first, std::to_chars(first, last, x, std::chars_format::scientific).ptr);
+        if (shortest.count <= SignificantDigits) return shortest;
     }
-    written = std::to_chars(first, first + buffer.size(), x, std::chars_format::scientific, SignificantDigits - 1);
-    return ReadScientific(std::string_view(first, static_cast<std::size_t>(written.ptr - first)));
+    return ReadScientific(first, std::to_chars(first, last, x, std::chars_format::scientific, SignificantDigits - 1).ptr);
 }
 
-std::string FixedForm(const RoundedDecimal& d, bool zeroBeforePoint) {
-    std::string whole;
-    std::string fraction;
-    if (d.exponent >= 0) {
-        const auto wholeLength = static_cast<std::size_t>(d.exponent) + 1;
-        whole = d.digits.substr(0, wholeLength);
-        whole.append(wholeLength - whole.size(), '0');
-        if (d.digits.size() > wholeLength) fraction = d.digits.substr(wholeLength);
-    } else {
-        fraction.assign(static_cast<std::size_t>(-d.exponent - 1), '0');
-        fraction += d.digits;
+// Writes into a buffer of at most 40 characters; returns the end.
+char* WriteFixed(const RoundedDecimal& d, bool zeroBeforePoint, char* out) {
+    const int wholeDigits = d.exponent + 1;  // may be 0 or negative
+    for (int i = 0; i < wholeDigits; ++i) *out++ = i < d.count ? d.digits[static_cast<std::size_t>(i)] : '0';
+    if (wholeDigits <= 0 && zeroBeforePoint) *out++ = '0';
+    if (d.count > std::max(wholeDigits, 0)) {
+        *out++ = '.';
+        for (int i = wholeDigits; i < 0; ++i) *out++ = '0';
+        for (int i = std::max(wholeDigits, 0); i < d.count; ++i) *out++ = d.digits[static_cast<std::size_t>(i)];
     }
-    if (whole.empty() && zeroBeforePoint) whole = "0";
-    return fraction.empty() ? whole : whole + "." + fraction;
+    return out;
 }
 
-std::string ExponentForm(const RoundedDecimal& d) {
-    std::string text(1, d.digits[0]);
-    if (d.digits.size() > 1) text += "." + d.digits.substr(1);
-    text += d.exponent < 0 ? "E-" : "E+";
+char* WriteExponentForm(const RoundedDecimal& d, char* out) {
+    *out++ = d.digits[0];
+    if (d.count > 1) {
+        *out++ = '.';
+        for (int i = 1; i < d.count; ++i) *out++ = d.digits[static_cast<std::size_t>(i)];
+    }
+    *out++ = 'E';
+    *out++ = d.exponent < 0 ? '-' : '+';
     const int magnitude = d.exponent < 0 ? -d.exponent : d.exponent;
-    if (magnitude < 10) text += '0';
-    text += std::to_string(magnitude);
-    return text;
+    if (magnitude < 10) *out++ = '0';
+    return std::to_chars(out, out + 4, magnitude).ptr;
 }
 
-std::string FormatRounded(double x, bool zeroBeforePoint) {
+// The text of x; `lead` is the blank that NumberText puts before a non-negative number.
+std::u16string FormatRounded(double x, bool zeroBeforePoint, bool lead) {
+    std::array<char, 48> buffer{};
+    // Whole numbers below 1E+15 have at most 15 digits: their text is the integer.
+    if (x == std::trunc(x) && std::fabs(x) < 1e15) {
+        char* out = buffer.data();
+        if (lead && !(x < 0)) *out++ = ' ';
+        out = std::to_chars(out, buffer.data() + buffer.size(), static_cast<long long>(x)).ptr;
+        return std::u16string(buffer.data(), out);
+    }
     const RoundedDecimal d = RoundTo15Digits(x);
-    const int placesAfterPoint = static_cast<int>(d.digits.size()) - 1 - d.exponent;
+    const int placesAfterPoint = d.count - 1 - d.exponent;
     const bool fixed = d.exponent < SignificantDigits && placesAfterPoint <= MaxFixedPlaces;
-    const std::string body = fixed ? FixedForm(d, zeroBeforePoint) : ExponentForm(d);
-    return d.negative ? "-" + body : body;
+    char* out = buffer.data();
+    if (d.negative) {
+        *out++ = '-';
+    } else if (lead) {
+        *out++ = ' ';
+    }
+    out = fixed ? WriteFixed(d, zeroBeforePoint, out) : WriteExponentForm(d, out);
+    return std::u16string(buffer.data(), out);
 }
 
 bool IsExponentMark(char16_t c) { return c == u'e' || c == u'E' || c == u'd' || c == u'D'; }
@@ -145,12 +165,9 @@ double ParseNumericText(std::u16string_view t, bool negative) {
 
 }  // namespace
 
-std::u16string NumberText(double x) {
-    const std::string text = FormatRounded(x, false);
-    return AsciiToU16(text[0] == '-' ? text : " " + text);
-}
+std::u16string NumberText(double x) { return FormatRounded(x, false, true); }
 
-std::u16string DisplayNumberText(double x) { return AsciiToU16(FormatRounded(x, true)); }
+std::u16string DisplayNumberText(double x) { return FormatRounded(x, true, false); }
 
 bool IsNumericText(std::u16string_view t) {
     std::size_t i = DigitRun(t, 0);

@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "cli/cli_app.h"
+
+namespace tessarondel {
+namespace {
+
+struct CliRun {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+CliRun RunWith(const std::vector<std::string>& args, const std::string& input = "") {
+    std::istringstream in(input);
+    std::ostringstream out;
+    std::ostringstream err;
+    CliRun run;
+    run.status = RunCli(args, StreamLineReader(in), out, err);
+    run.out = out.str();
+    run.err = err.str();
+    return run;
+}
+
+TEST(CliArguments, PrintOneLinePerExpressionInOneEngine) {
+    const CliRun run = RunWith({"x=0.5", "x*3", "'note", "0-inf", "1e400*0+inf"});
+    EXPECT_EQ(run.out, "0.5\n1.5\nTessarondel Note Line\n-Inf\nError: Overflow error!\n");
+    EXPECT_EQ(run.status, CliSomeFailed);
+}
+
+TEST(CliArguments, AllGoodExitsZero) {
+    const CliRun run = RunWith({"2+3", "5 MOD 3"});
+    EXPECT_EQ(run.out, "5\n2\n");
+    EXPECT_EQ(run.status, CliAllGood);
+}
+
+TEST(CliArguments, ErrorsShowTheMessage) {
+    const CliRun run = RunWith({"1/0", "", "foo(2)"});
+    EXPECT_EQ(run.out,
+              "Error: The parameters of the functions or operators are invalid!\n"
+              "Error: The expression is empty!\n"
+              "Error: Syntax error in the expression!\n");
+    EXPECT_EQ(run.status, CliSomeFailed);
+}
+
+TEST(CliArguments, LeadingMinusIsAnExpressionAndDashDashEndsOptions) {
+    EXPECT_EQ(RunWith({"-3+2"}).out, "-1\n");
+    EXPECT_EQ(RunWith({"--", "--3"}).out, "3\n");
+}
+
+TEST(CliOptions, RoundSetsTheAutoRoundingPlaces) {
+    EXPECT_EQ(RunWith({"--round", "2", "1/3"}).out, "0.33\n");
+    EXPECT_EQ(RunWith({"--round", "-1", "1/3"}).out, "0.333333333333333\n");
+    EXPECT_EQ(RunWith({"1/3"}).out, "0.333333333333333\n");
+}
+
+TEST(CliOptions, VersionAndHelp) {
+    EXPECT_EQ(RunWith({"--version"}).out, "1.2.6688 Build 1228\n");
+    const CliRun help = RunWith({"--help"});
+    EXPECT_EQ(help.status, CliAllGood);
+    EXPECT_NE(help.out.find("Usage: tessarondel-cli"), std::string::npos);
+}
+
+TEST(CliOptions, BadUsageExitsTwo) {
+    for (const auto& args : std::vector<std::vector<std::string>>{
+             {"--frobnicate"}, {"--round"}, {"--round", "x", "1"}, {"--round", "2.5", "1"}, {"--json", "1+1"}}) {
+        const CliRun run = RunWith(args);
+        EXPECT_EQ(run.status, CliBadUsage) << args[0];
+        EXPECT_TRUE(run.out.empty());
+        EXPECT_NE(run.err.find("Usage:"), std::string::npos);
+    }
+}
+
+TEST(CliStandardInput, EvaluatesLineByLine) {
+    const CliRun run = RunWith({}, "x=2\r\nx^10\n\n1+\n");
+    EXPECT_EQ(run.out, "2\n1024\nError: The expression is empty!\nError: Syntax error in the expression!\n");
+    EXPECT_EQ(run.status, CliSomeFailed);
+    EXPECT_EQ(RunWith({}, "1\n2\n").status, CliAllGood);
+}
+
+TEST(CliJson, AnswersEveryRequestOnItsOwnLine) {
+    const CliRun run = RunWith({"--json"},
+                            "{\"eval\": \"x=1/0\"}\n"
+                            "\n"
+                            "{\"eval\": \"0-0\"}\n"
+                            "[1]\n"
+                            "{\"nonsense\": 1}\n"
+                            "{\"eval\": 5}\n"
+                            "{\"round\": 2}\n"
+                            "{\"eval\": \"1/3\"}\n"
+                            "{\"clear\": true}\n"
+                            "{\"eval\": \"0*(0-1)\"}\n"
+                            "{\"define\": {\"name\": \"f\"}}\n");
+    EXPECT_EQ(run.status, CliAllGood);
+    std::istringstream lines(run.out);
+    std::vector<std::string> responses;
+    for (std::string line; std::getline(lines, line);) responses.push_back(line);
+    ASSERT_EQ(responses.size(), 10u);
+    EXPECT_EQ(responses[0],
+              R"({"error": true, "number": 5, "message": "The parameters of the functions or operators are invalid!", )"
+              R"("boxes": [], "result": "Error", "answer": 0, "vars": [["x", "1"]]})");
+    EXPECT_EQ(responses[1],
+              R"({"error": false, "number": 5, "message": "The parameters of the functions or operators are invalid!", )"
+              R"("boxes": [], "result": "0", "answer": 0, "vars": [["x", "1"]]})");
+    EXPECT_EQ(responses[2].rfind(R"({"protocol_error": )", 0), 0u);
+    EXPECT_EQ(responses[3], R"({"protocol_error": "unknown request: nonsense"})");
+    EXPECT_EQ(responses[4], R"({"protocol_error": "eval must be a string"})");
+    EXPECT_NE(responses[6].find(R"("result": "0.33", "answer": 0.33)"), std::string::npos);
+    EXPECT_NE(responses[8].find(R"("vars": [])"), std::string::npos);
+    EXPECT_EQ(responses[9], R"({"protocol_error": "unknown request: define"})");
+}
+
+}  // namespace
+}  // namespace tessarondel
