@@ -111,7 +111,7 @@ TEST(CliJson, AnswersEveryRequestOnItsOwnLine) {
     EXPECT_EQ(responses[4], R"({"protocol_error": "eval must be a string"})");
     EXPECT_NE(responses[6].find(R"("result": "0.33", "answer": 0.33)"), std::string::npos);
     EXPECT_NE(responses[8].find(R"("vars": [])"), std::string::npos);
-    EXPECT_EQ(responses[9], R"({"protocol_error": "unknown request: define"})");
+    EXPECT_EQ(responses[9], R"({"protocol_error": "missing member: params"})");
 }
 
 }  // namespace
