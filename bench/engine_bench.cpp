@@ -43,8 +43,12 @@ void BM_EvaluateText_Long(benchmark::State& run) {
 }
 // Arguments: length, and whether the rewritten text stays within the bracket count's limit.
 BENCHMARK(BM_EvaluateText_Long)
-    ->Args({1000, 1})->Args({10000, 1})->Args({30000, 1})
-    ->Args({1000, 0})->Args({10000, 0})->Args({30000, 0})
+    ->Args({1000, 1})
+    ->Args({10000, 1})
+    ->Args({30000, 1})
+    ->Args({1000, 0})
+    ->Args({10000, 0})
+    ->Args({30000, 0})
     ->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -14,13 +14,13 @@ namespace tessarondel::bench {
 // evaluation stops after the passes with error 6.
 inline std::string LongExpression(std::size_t length, bool fitting) {
     static const char* const dense[] = {"pi", "e", "7 mod 3", "50%", "2e3", "(1+2)", "x", "3.5", "pi*e", "9 mod 4"};
-    static const char* const sparse[] = {"7 mod 3", "12", "(1+2)", "x", "3.5", "9 mod 4", "2e3", "11", "4*5", "8/2"};
+    static const char* const sparse[] = {"7 mod 3", "12", "(1+2)", "x", "3.5", "9 mod 4", "2.5", "11", "4*5", "8/2"};
     std::mt19937 random(42);
     std::uniform_int_distribution<int> pick(0, 9);
     std::string text = "x=1,1";
     for (int term = 0;; ++term) {
         const char* body = (fitting ? sparse : dense)[pick(random)];
-        if (fitting && term % 25 == 0) body = term % 50 == 0 ? "pi" : "e%";
+        if (fitting && term % 50 == 0) body = term % 100 == 0 ? "pi" : "e%";
         const std::string next = std::string("+") + body;
         if (text.size() + next.size() > length) break;
         text += next;

@@ -24,7 +24,9 @@ private:
     static constexpr int MaxDepth = 64;
 
     void SkipSpace() {
-        while (pos_ < text_.size() && (text_[pos_] == ' ' || text_[pos_] == '\t' || text_[pos_] == '\n' || text_[pos_] == '\r')) ++pos_;
+        while (pos_ < text_.size() &&
+               (text_[pos_] == ' ' || text_[pos_] == '\t' || text_[pos_] == '\n' || text_[pos_] == '\r'))
+            ++pos_;
     }
     bool Consume(std::string_view word) {
         if (text_.substr(pos_, word.size()) != word) return false;
@@ -52,7 +54,8 @@ private:
     std::optional<Value> ParseNumber() {
         const std::size_t start = pos_;
         if (pos_ < text_.size() && text_[pos_] == '-') ++pos_;
-        while (pos_ < text_.size() && std::string_view("0123456789.eE+-").find(text_[pos_]) != std::string_view::npos) ++pos_;
+        while (pos_ < text_.size() && std::string_view("0123456789.eE+-").find(text_[pos_]) != std::string_view::npos)
+            ++pos_;
         double x = 0;
         const char* first = text_.data() + start;
         const auto parsed = std::from_chars(first, text_.data() + pos_, x);
@@ -128,19 +131,34 @@ private:
             if (pos_ >= text_.size()) return std::nullopt;
             const char e = text_[pos_++];
             switch (e) {
-                case '"': case '\\': case '/': out += e; break;
-                case 'b': out += '\b'; break;
-                case 'f': out += '\f'; break;
-                case 'n': out += '\n'; break;
-                case 'r': out += '\r'; break;
-                case 't': out += '\t'; break;
+                case '"':
+                case '\\':
+                case '/':
+                    out += e;
+                    break;
+                case 'b':
+                    out += '\b';
+                    break;
+                case 'f':
+                    out += '\f';
+                    break;
+                case 'n':
+                    out += '\n';
+                    break;
+                case 'r':
+                    out += '\r';
+                    break;
+                case 't':
+                    out += '\t';
+                    break;
                 case 'u': {
                     auto cp = ParseEscapedCodePoint();
                     if (!cp) return std::nullopt;
                     AppendUtf8(out, *cp);
                     break;
                 }
-                default: return std::nullopt;
+                default:
+                    return std::nullopt;
             }
         }
         return std::nullopt;
@@ -183,11 +201,21 @@ std::string QuoteString(std::string_view utf8) {
     std::string out = "\"";
     for (const char c : utf8) {
         switch (c) {
-            case '"': out += "\\\""; break;
-            case '\\': out += "\\\\"; break;
-            case '\n': out += "\\n"; break;
-            case '\r': out += "\\r"; break;
-            case '\t': out += "\\t"; break;
+            case '"':
+                out += "\\\"";
+                break;
+            case '\\':
+                out += "\\\\";
+                break;
+            case '\n':
+                out += "\\n";
+                break;
+            case '\r':
+                out += "\\r";
+                break;
+            case '\t':
+                out += "\\t";
+                break;
             default:
                 if (static_cast<unsigned char>(c) < 0x20) {
                     constexpr char hex[] = "0123456789abcdef";
@@ -222,7 +250,8 @@ std::string Write(const Value& value) {
         }
         std::string operator()(const Object& members) const {
             std::string text = "{";
-            for (const auto& [key, item] : members) text += (text.size() > 1 ? "," : "") + QuoteString(key) + ":" + Write(item);
+            for (const auto& [key, item] : members)
+                text += (text.size() > 1 ? "," : "") + QuoteString(key) + ":" + Write(item);
             return text + "}";
         }
     };

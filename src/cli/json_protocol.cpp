@@ -10,7 +10,9 @@ namespace tessarondel {
 JsonSession::JsonSession() {
     engine.ApproximateBits = -1;
     engine.ErrorBoxTitle = u"Tessarondel Error Information";
-    engine.ShowMessageBox = [this](const std::u16string& text, const std::u16string&) { boxes.push_back(ToUtf8(text)); };
+    engine.ShowMessageBox = [this](const std::u16string& text, const std::u16string&) {
+        boxes.push_back(ToUtf8(text));
+    };
 }
 
 namespace {

@@ -113,7 +113,7 @@ struct EngineState final : ErrorSink {
     std::int32_t ApproximateBits = 0;
 
     std::vector<VariableSlot> VariableTable = std::vector<VariableSlot>(1);  // slot 0 is never used
-    std::u16string VariableNames;                                              // "{x}{y}"
+    std::u16string VariableNames;                                            // "{x}{y}"
     std::u16string VariableListing;
     // The NumberText of each slot's value as the last listing wrote it, so a
     // listing formats only the values that changed since.

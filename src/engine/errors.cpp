@@ -35,7 +35,8 @@ std::u16string DecimalText(int number) {
 }  // namespace
 
 std::u16string_view ErrorMessage(int number) {
-    if (number >= 0 && number < static_cast<int>(LowMessages.size())) return LowMessages[static_cast<std::size_t>(number)];
+    if (number >= 0 && number < static_cast<int>(LowMessages.size()))
+        return LowMessages[static_cast<std::size_t>(number)];
     if (number == UnknownError) return UnknownMessage;
     return {};
 }

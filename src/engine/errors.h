@@ -9,20 +9,20 @@ namespace tessarondel {
 
 // The engine's error numbers.
 enum EngineError : int {
-    SyntaxError = 0,            // "2=3", "foo(2)", "1+"
-    BracketsMismatch = 1,       // "((1)", "(1!2)"
-    EmptyExpression = 2,        // "   ", "!555"
-    InvalidIdentifiers = 3,     // "5!", "7\2"
-    UndefinedName = 4,          // "2x", "12a"
-    InvalidParameters = 5,      // "1/0", "sqrt(0-1)", "1e2.5"
-    OverflowError = 6,          // "1e308*10", "2147483648 and 1"
-    ConstantAssignment = 7,     // "pi=3"
-    InvalidName = 8,            // "a b", "a.b", "_=3"
-    RedefinedFunction = 9,      // defining a name that exists
-    RecursiveFunctions = 10,    // a body that reaches its own name
-    BaseConvertingError = 11,   // "$b" followed by 1025 ones
-    FunctionAssignment = 12,    // "sin=3"
-    UnknownError = 99,          // "(0-1)^0.5", "5 mod 0.4"
+    SyntaxError = 0,           // "2=3", "foo(2)", "1+"
+    BracketsMismatch = 1,      // "((1)", "(1!2)"
+    EmptyExpression = 2,       // "   ", "!555"
+    InvalidIdentifiers = 3,    // "5!", "7\2"
+    UndefinedName = 4,         // "2x", "12a"
+    InvalidParameters = 5,     // "1/0", "sqrt(0-1)", "1e2.5"
+    OverflowError = 6,         // "1e308*10", "2147483648 and 1"
+    ConstantAssignment = 7,    // "pi=3"
+    InvalidName = 8,           // "a b", "a.b", "_=3"
+    RedefinedFunction = 9,     // defining a name that exists
+    RecursiveFunctions = 10,   // a body that reaches its own name
+    BaseConvertingError = 11,  // "$b" followed by 1025 ones
+    FunctionAssignment = 12,   // "sin=3"
+    UnknownError = 99,         // "(0-1)^0.5", "5 mod 0.4"
 };
 
 // A failure handler: runs `body`; a run-time failure that escapes it is

@@ -69,8 +69,20 @@ const BracedNameSet& Constants() {
 bool IsOperatorText(std::u16string_view text) {
     if (text.size() == 1) {
         switch (text[0]) {
-            case u'=': case u',': case u'+': case u'-': case u'*': case u'/': case u'%': case u'^':
-            case u'>': case u'<': case u'(': case u')': case u'&': case u'|':
+            case u'=':
+            case u',':
+            case u'+':
+            case u'-':
+            case u'*':
+            case u'/':
+            case u'%':
+            case u'^':
+            case u'>':
+            case u'<':
+            case u'(':
+            case u')':
+            case u'&':
+            case u'|':
                 return true;
             default:
                 return false;
@@ -103,9 +115,27 @@ bool IsDigitChar(char16_t c) { return (c >= u'0' && c <= u'9') || c == u'.'; }
 
 bool IsDelimiterChar(char16_t c) {
     switch (c) {
-        case u'=': case u',': case u'+': case u'-': case u'*': case u'/': case u'\\': case u'%': case u'^':
-        case u'>': case u'<': case u'(': case u')': case u'&': case u'|': case u'!': case u'~':
-        case u'\t': case u'\0': case u'\n': case u'\r':
+        case u'=':
+        case u',':
+        case u'+':
+        case u'-':
+        case u'*':
+        case u'/':
+        case u'\\':
+        case u'%':
+        case u'^':
+        case u'>':
+        case u'<':
+        case u'(':
+        case u')':
+        case u'&':
+        case u'|':
+        case u'!':
+        case u'~':
+        case u'\t':
+        case u'\0':
+        case u'\n':
+        case u'\r':
             return true;
         default:
             return false;

@@ -13,12 +13,12 @@ struct Fold {
 
 // The 36 single replacements after the three ranges of letters and digits.
 constexpr std::array<Fold, 36> SingleFolds = {{
-    {0xFF5E, u'~'},  {0xFF01, u'!'},  {0xFF20, u'@'}, {0xFF03, u'#'}, {0xFF04, u'$'}, {0xFF05, u'%'},
-    {0xFF3E, u'^'},  {0xFF06, u'&'},  {0xFF0A, u'*'}, {0xFF08, u'('}, {0xFF09, u')'}, {0xFF3F, u'_'},
-    {0xFF0B, u'+'},  {0xFF5C, u'|'},  {0xFF0D, u'-'}, {0xFF1D, u'='}, {0xFF3C, u'\\'}, {0xFF1C, u'<'},
-    {0xFF1E, u'>'},  {0xFF1F, u'?'},  {0xFF0C, u','}, {0x3002, u'.'}, {0xFF0E, u'.'}, {0xFF0F, u'/'},
-    {0xFF1A, u':'},  {0xFF1B, u';'},  {0xFF07, u'\''}, {0x2019, u'\''}, {0x2018, u'\''}, {0x201C, u'"'},
-    {0x201D, u'"'},  {0xFF5B, u'{'},  {0xFF5D, u'}'}, {0xFF3B, u'['}, {0xFF3D, u']'}, {0x3000, u' '},
+    {0xFF5E, u'~'}, {0xFF01, u'!'}, {0xFF20, u'@'},  {0xFF03, u'#'},  {0xFF04, u'$'},  {0xFF05, u'%'},
+    {0xFF3E, u'^'}, {0xFF06, u'&'}, {0xFF0A, u'*'},  {0xFF08, u'('},  {0xFF09, u')'},  {0xFF3F, u'_'},
+    {0xFF0B, u'+'}, {0xFF5C, u'|'}, {0xFF0D, u'-'},  {0xFF1D, u'='},  {0xFF3C, u'\\'}, {0xFF1C, u'<'},
+    {0xFF1E, u'>'}, {0xFF1F, u'?'}, {0xFF0C, u','},  {0x3002, u'.'},  {0xFF0E, u'.'},  {0xFF0F, u'/'},
+    {0xFF1A, u':'}, {0xFF1B, u';'}, {0xFF07, u'\''}, {0x2019, u'\''}, {0x2018, u'\''}, {0x201C, u'"'},
+    {0x201D, u'"'}, {0xFF5B, u'{'}, {0xFF5D, u'}'},  {0xFF3B, u'['},  {0xFF3D, u']'},  {0x3000, u' '},
 }};
 
 char16_t FoldChar(char16_t c) {

@@ -13,9 +13,7 @@ namespace tessarondel {
 // is the back of a string.
 class SpliceText {
 public:
-    explicit SpliceText(std::u16string_view text) : ahead_(text.rbegin(), text.rend()) {
-        done_.reserve(text.size());
-    }
+    explicit SpliceText(std::u16string_view text) : ahead_(text.rbegin(), text.rend()) { done_.reserve(text.size()); }
 
     std::size_t Size() const { return done_.size() + ahead_.size(); }
     // 0-based position of the first unread character.

@@ -85,7 +85,8 @@ TokenCheck CheckToken(EngineState& state, const TokenContext& context, std::u16s
     }
     if (!t.empty() && !IsFunctionName(state, t)) {
         const bool bracketAhead = context.Next() == u'(';
-        if ((context.AtStart() && bracketAhead) || (!context.AtStart() && (context.text.Behind() == u')' || bracketAhead))) {
+        if ((context.AtStart() && bracketAhead) ||
+            (!context.AtStart() && (context.text.Behind() == u')' || bracketAhead))) {
             return Stop(state, SyntaxError);
         }
     }

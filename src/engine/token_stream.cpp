@@ -1,6 +1,5 @@
 #include "engine/token_stream.h"
 
-
 #include "customfunctions/engine/call_expansion.h"
 #include "engine/errors.h"
 #include "engine/exponent_scan.h"

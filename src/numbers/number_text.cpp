@@ -58,10 +58,12 @@ RoundedDecimal RoundTo15Digits(double x) {
     // digit; with at most 15 digits it is therefore x rounded to 15 digits.
     // Others are rounded from the exact value.
     if (std::isnormal(x)) {
-        const RoundedDecimal shortest = ReadScientific(first, std::to_chars(first, last, x, std::chars_format::scientific).ptr);
+        const RoundedDecimal shortest =
+            ReadScientific(first, std::to_chars(first, last, x, std::chars_format::scientific).ptr);
         if (shortest.count <= SignificantDigits) return shortest;
     }
-    return ReadScientific(first, std::to_chars(first, last, x, std::chars_format::scientific, SignificantDigits - 1).ptr);
+    return ReadScientific(first,
+                          std::to_chars(first, last, x, std::chars_format::scientific, SignificantDigits - 1).ptr);
 }
 
 // Writes into a buffer of at most 40 characters; returns the end.
@@ -139,8 +141,8 @@ double ParseDecimal(std::string_view text) {
     }
     const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
     const std::size_t lead = mantissa.find_first_of("123456789");
-    const long long leadPower = lead < point ? static_cast<long long>(point - lead) - 1
-                                             : -static_cast<long long>(lead - point);
+    const long long leadPower =
+        lead < point ? static_cast<long long>(point - lead) - 1 : -static_cast<long long>(lead - point);
     if (leadPower + exponent >= 0) throw OverflowFailure();
     return text[0] == '-' ? -0.0 : 0.0;
 }

@@ -1,10 +1,10 @@
+#include "cli/cli_app.h"
+
 #include <gtest/gtest.h>
 
 #include <sstream>
 #include <string>
 #include <vector>
-
-#include "cli/cli_app.h"
 
 namespace tessarondel {
 namespace {
@@ -84,17 +84,17 @@ TEST(CliStandardInput, EvaluatesLineByLine) {
 
 TEST(CliJson, AnswersEveryRequestOnItsOwnLine) {
     const CliRun run = RunWith({"--json"},
-                            "{\"eval\": \"x=1/0\"}\n"
-                            "\n"
-                            "{\"eval\": \"0-0\"}\n"
-                            "[1]\n"
-                            "{\"nonsense\": 1}\n"
-                            "{\"eval\": 5}\n"
-                            "{\"round\": 2}\n"
-                            "{\"eval\": \"1/3\"}\n"
-                            "{\"clear\": true}\n"
-                            "{\"eval\": \"0*(0-1)\"}\n"
-                            "{\"define\": {\"name\": \"f\"}}\n");
+                               "{\"eval\": \"x=1/0\"}\n"
+                               "\n"
+                               "{\"eval\": \"0-0\"}\n"
+                               "[1]\n"
+                               "{\"nonsense\": 1}\n"
+                               "{\"eval\": 5}\n"
+                               "{\"round\": 2}\n"
+                               "{\"eval\": \"1/3\"}\n"
+                               "{\"clear\": true}\n"
+                               "{\"eval\": \"0*(0-1)\"}\n"
+                               "{\"define\": {\"name\": \"f\"}}\n");
     EXPECT_EQ(run.status, CliAllGood);
     std::istringstream lines(run.out);
     std::vector<std::string> responses;
@@ -103,9 +103,10 @@ TEST(CliJson, AnswersEveryRequestOnItsOwnLine) {
     EXPECT_EQ(responses[0],
               R"({"error": true, "number": 5, "message": "The parameters of the functions or operators are invalid!", )"
               R"("boxes": [], "result": "Error", "answer": 0, "vars": [["x", "1"]]})");
-    EXPECT_EQ(responses[1],
-              R"({"error": false, "number": 5, "message": "The parameters of the functions or operators are invalid!", )"
-              R"("boxes": [], "result": "0", "answer": 0, "vars": [["x", "1"]]})");
+    EXPECT_EQ(
+        responses[1],
+        R"({"error": false, "number": 5, "message": "The parameters of the functions or operators are invalid!", )"
+        R"("boxes": [], "result": "0", "answer": 0, "vars": [["x", "1"]]})");
     EXPECT_EQ(responses[2].rfind(R"({"protocol_error": )", 0), 0u);
     EXPECT_EQ(responses[3], R"({"protocol_error": "unknown request: nonsense"})");
     EXPECT_EQ(responses[4], R"({"protocol_error": "eval must be a string"})");

@@ -1,10 +1,10 @@
+#include "cli/json.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <string>
-
-#include "cli/json.h"
 
 namespace tessarondel {
 namespace {
@@ -13,8 +13,13 @@ TEST(JsonNumbers, ShortestRoundTripTexts) {
     const struct {
         double x;
         const char* text;
-    } rows[] = {{0.0, "0"}, {-0.0, "-0.0"}, {7, "7"}, {0.1, "0.1"}, {9.900000000000001e-14, "9.900000000000001e-14"},
-                {1.79769313486231e308, "1.79769313486231e+308"}, {-2.5, "-2.5"}};
+    } rows[] = {{0.0, "0"},
+                {-0.0, "-0.0"},
+                {7, "7"},
+                {0.1, "0.1"},
+                {9.900000000000001e-14, "9.900000000000001e-14"},
+                {1.79769313486231e308, "1.79769313486231e+308"},
+                {-2.5, "-2.5"}};
     for (const auto& row : rows) {
         EXPECT_EQ(json::NumberText(row.x), row.text);
         const auto back = json::Parse(json::NumberText(row.x));
@@ -40,8 +45,9 @@ TEST(JsonDocuments, ParseObjectsArraysAndLiterals) {
 }
 
 TEST(JsonDocuments, RejectMalformedText) {
-    for (const char* text : {"", "{", "{\"a\" 1}", "[1,]", "{\"a\":1,}", "tru", "\"open", "1 2", "{'a':1}", "\"\x01\"",
-                             "01x", "[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[]]]]]]]]]]]]"}) {
+    for (const char* text :
+         {"", "{", "{\"a\" 1}", "[1,]", "{\"a\":1,}", "tru", "\"open", "1 2", "{'a':1}", "\"\x01\"", "01x",
+          "[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[]]]]]]]]]]]]"}) {
         EXPECT_FALSE(json::Parse(text).has_value()) << text;
     }
 }

@@ -24,7 +24,10 @@ const EvaluationRow kClassificationRows[] = {
     {"SixteenDigitWhole", "2^50", "1.12589990684262E+15"},
     {"Fraction", "1/30", "3.33333333333333E-02"},
     {"NoteOnly", "'comment", "Tessarondel Note Line"},
-    {"CurlyApostropheNote", "\xE2\x80\x99" "comment", "Tessarondel Note Line"},
+    {"CurlyApostropheNote",
+     "\xE2\x80\x99"
+     "comment",
+     "Tessarondel Note Line"},
     {"NoteBehindCode", "1+1 'two", "2"},
     {"NoteGluedToDigit", "2*3'4", "6"},
     {"NoteAcrossLines", "1+ 'x\r\n1", "Error", 0},
@@ -86,7 +89,9 @@ TEST(Driver, LeavesTheArgumentFoldedAndCutAtTheNote) {
 TEST(ErrorBox, ShowsTheFirstErrorOfAnEvaluationOnly) {
     EngineState state = testing_engine::FreshEngine();
     std::vector<std::pair<std::u16string, std::u16string>> boxes;
-    state.ShowMessageBox = [&](const std::u16string& text, const std::u16string& title) { boxes.emplace_back(text, title); };
+    state.ShowMessageBox = [&](const std::u16string& text, const std::u16string& title) {
+        boxes.emplace_back(text, title);
+    };
     state.ErrorBoxTitle = u"Tessarondel Error Information";
     state.ShowErrorBox = true;
     Evaluate(state, "1/0+2/0");
@@ -96,7 +101,8 @@ TEST(ErrorBox, ShowsTheFirstErrorOfAnEvaluationOnly) {
     EXPECT_EQ(ToUtf8(boxes[0].second), "Tessarondel Error Information");
     Evaluate(state, "2.5.1e3");
     ASSERT_EQ(boxes.size(), 2u);
-    EXPECT_EQ(ToUtf8(boxes[1].first), "ErrNum:5\r\nErrInformation:The parameters of the functions or operators are invalid!");
+    EXPECT_EQ(ToUtf8(boxes[1].first),
+              "ErrNum:5\r\nErrInformation:The parameters of the functions or operators are invalid!");
     EXPECT_EQ(state.ErrorNumber, 8);
     state.ShowErrorBox = false;
     Evaluate(state, "1/0");
@@ -121,9 +127,7 @@ TEST(ErrorMessages, NumbersOutsideTheTableFailTheCaller) {
 
 std::string Nested(int depth) { return std::string(depth, '(') + "1" + std::string(depth, ')'); }
 
-TEST(DeepNesting, WorksWithinTheBound) {
-    EXPECT_EQ(testing_engine::EvaluateFresh(Nested(900)).result, "1");
-}
+TEST(DeepNesting, WorksWithinTheBound) { EXPECT_EQ(testing_engine::EvaluateFresh(Nested(900)).result, "1"); }
 
 TEST(DeepNesting, BeyondTheBoundEndsInTheDriversHandler) {
     EngineState state = testing_engine::FreshEngine();

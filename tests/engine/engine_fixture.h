@@ -58,7 +58,8 @@ inline std::vector<std::pair<std::string, std::string>> Variables(EngineState& s
     const int count = GetVariableSnapshot(state, records);
     std::vector<std::pair<std::string, std::string>> out;
     for (int i = 0; i < count; ++i) {
-        out.emplace_back(ToUtf8(records[static_cast<std::size_t>(i)].Name), ToUtf8(records[static_cast<std::size_t>(i)].Value));
+        out.emplace_back(ToUtf8(records[static_cast<std::size_t>(i)].Name),
+                         ToUtf8(records[static_cast<std::size_t>(i)].Value));
     }
     return out;
 }

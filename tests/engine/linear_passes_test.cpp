@@ -23,10 +23,11 @@ std::u16string RandomText(std::mt19937& random, const std::vector<std::u16string
 }
 
 const std::vector<std::u16string> kPieces = {
-    u"pi", u"e", u"eps", u"inf", u"true", u"false", u"tg", u"hsin", u"permutation", u"factorial", u"sin",
-    u"mod", u"and", u"or", u"xor", u"div", u"imp", u"eqv", u"sand", u"_and", u"x", u"a1", u"x2",
-    u"1", u"25", u"2.5", u".", u"e3", u"e+", u"e-", u"1e5", u"$h1e", u"$", u"d", u"_",
-    u"(", u")", u"+", u"-", u"*", u"/", u"^", u"=", u"==", u",", u"%", u"!", u"\\", u" ", u"  ", u"'",
+    u"pi",  u"e",   u"eps", u"inf", u"true", u"false", u"tg",  u"hsin", u"permutation", u"factorial", u"sin",
+    u"mod", u"and", u"or",  u"xor", u"div",  u"imp",   u"eqv", u"sand", u"_and",        u"x",         u"a1",
+    u"x2",  u"1",   u"25",  u"2.5", u".",    u"e3",    u"e+",  u"e-",   u"1e5",         u"$h1e",      u"$",
+    u"d",   u"_",   u"(",   u")",   u"+",    u"-",     u"*",   u"/",    u"^",           u"=",         u"==",
+    u",",   u"%",   u"!",   u"\\",  u" ",    u"  ",    u"'",
 };
 
 constexpr int kRounds = 4000;

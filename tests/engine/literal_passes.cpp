@@ -29,22 +29,41 @@ bool Delimiter(const std::u16string& s, std::size_t position) {
 }
 
 const std::vector<std::pair<std::u16string, std::u16string>> kReplacements = {
-    {u"permutation", u"perm"}, {u"combination", u"comb"}, {u"true", u"(-1)"}, {u"false", u"(0)"},
-    {u"pi", u"3.14159265358979"}, {u"e", u"2.71828182845905"}, {u"eps", u"(9.88131291682493*(10^(-14)))"},
-    {u"inf", u"(1.79769313486231*(10^308))"}, {u"hsin", u"sh"}, {u"hcos", u"ch"}, {u"htan", u"th"},
-    {u"harcsin", u"arsh"}, {u"harccos", u"arch"}, {u"harctan", u"arth"}, {u"tg", u"tan"}, {u"average", u"mean"},
-    {u"product", u"prod"}, {u"factorial", u"fac"}, {u"ator", u"angtorad"}, {u"rtoa", u"radtoang"},
+    {u"permutation", u"perm"},
+    {u"combination", u"comb"},
+    {u"true", u"(-1)"},
+    {u"false", u"(0)"},
+    {u"pi", u"3.14159265358979"},
+    {u"e", u"2.71828182845905"},
+    {u"eps", u"(9.88131291682493*(10^(-14)))"},
+    {u"inf", u"(1.79769313486231*(10^308))"},
+    {u"hsin", u"sh"},
+    {u"hcos", u"ch"},
+    {u"htan", u"th"},
+    {u"harcsin", u"arsh"},
+    {u"harccos", u"arch"},
+    {u"harctan", u"arth"},
+    {u"tg", u"tan"},
+    {u"average", u"mean"},
+    {u"product", u"prod"},
+    {u"factorial", u"fac"},
+    {u"ator", u"angtorad"},
+    {u"rtoa", u"radtoang"},
 };
 
 }  // namespace
 
 std::u16string FoldSource(std::u16string text) {
-    for (char16_t c = 0xFF21; c <= 0xFF3A; ++c) text = ReplaceAll(text, std::u16string(1, c), std::u16string(1, u'A' + (c - 0xFF21)));
-    for (char16_t c = 0xFF41; c <= 0xFF5A; ++c) text = ReplaceAll(text, std::u16string(1, c), std::u16string(1, u'a' + (c - 0xFF41)));
-    for (char16_t c = 0xFF10; c <= 0xFF19; ++c) text = ReplaceAll(text, std::u16string(1, c), std::u16string(1, u'0' + (c - 0xFF10)));
-    const std::u16string from = u"\uFF5E\uFF01\uFF20\uFF03\uFF04\uFF05\uFF3E\uFF06\uFF0A\uFF08\uFF09\uFF3F"
-                                u"\uFF0B\uFF5C\uFF0D\uFF1D\uFF3C\uFF1C\uFF1E\uFF1F\uFF0C\u3002\uFF0E\uFF0F"
-                                u"\uFF1A\uFF1B\uFF07\u2019\u2018\u201C\u201D\uFF5B\uFF5D\uFF3B\uFF3D\u3000";
+    for (char16_t c = 0xFF21; c <= 0xFF3A; ++c)
+        text = ReplaceAll(text, std::u16string(1, c), std::u16string(1, u'A' + (c - 0xFF21)));
+    for (char16_t c = 0xFF41; c <= 0xFF5A; ++c)
+        text = ReplaceAll(text, std::u16string(1, c), std::u16string(1, u'a' + (c - 0xFF41)));
+    for (char16_t c = 0xFF10; c <= 0xFF19; ++c)
+        text = ReplaceAll(text, std::u16string(1, c), std::u16string(1, u'0' + (c - 0xFF10)));
+    const std::u16string from =
+        u"\uFF5E\uFF01\uFF20\uFF03\uFF04\uFF05\uFF3E\uFF06\uFF0A\uFF08\uFF09\uFF3F"
+        u"\uFF0B\uFF5C\uFF0D\uFF1D\uFF3C\uFF1C\uFF1E\uFF1F\uFF0C\u3002\uFF0E\uFF0F"
+        u"\uFF1A\uFF1B\uFF07\u2019\u2018\u201C\u201D\uFF5B\uFF5D\uFF3B\uFF3D\u3000";
     const std::u16string to = u"~!@#$%^&*()_+|-=\\<>?,../:;'''\"\"{}[] ";
     for (std::size_t i = 0; i < from.size(); ++i) text = ReplaceAll(text, from.substr(i, 1), to.substr(i, 1));
     return text;
@@ -70,11 +89,15 @@ std::u16string ScanExponents(EngineState& state, std::u16string src) {
             bool leftStopped = false;
             bool rightStopped = false;
             for (std::size_t d = 2; !(leftStopped && rightStopped); ++d) {
-                if (!leftStopped && p > d && IsDigitChar(Mid(src, p - d))) m.insert(0, 1, Mid(src, p - d));
-                else leftStopped = true;
+                if (!leftStopped && p > d && IsDigitChar(Mid(src, p - d)))
+                    m.insert(0, 1, Mid(src, p - d));
+                else
+                    leftStopped = true;
                 const char16_t right = Mid(src, p + d);
-                if (!rightStopped && p + d <= src.size() && (IsDigitChar(right) || right == u' ')) x += right;
-                else rightStopped = true;
+                if (!rightStopped && p + d <= src.size() && (IsDigitChar(right) || right == u' '))
+                    x += right;
+                else
+                    rightStopped = true;
             }
             const auto points = std::count(m.begin(), m.end(), u'.');
             if (x.find(u'.') != std::u16string::npos || m == u"." || points > 1) {
@@ -92,7 +115,8 @@ std::u16string ScanExponents(EngineState& state, std::u16string src) {
 
 std::u16string ReplaceWordOperators(std::u16string src) {
     const std::vector<std::pair<std::u16string, std::u16string>> words = {
-        {u"and", u"&"}, {u"xor", u"%!"}, {u"eqv", u"%~"}, {u"mod", u"%%"}, {u"div", u"%\\"}, {u"or", u"|"}, {u"imp", u"%>"}};
+        {u"and", u"&"},   {u"xor", u"%!"}, {u"eqv", u"%~"}, {u"mod", u"%%"},
+        {u"div", u"%\\"}, {u"or", u"|"},   {u"imp", u"%>"}};
     std::size_t cursor = 0;
     while (cursor < src.size()) {
         ++cursor;

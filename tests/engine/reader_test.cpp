@@ -46,7 +46,9 @@ TEST_P(Reader, CutsTokensOffTheFront) {
 const ReaderRow kReaderRows[] = {
     {"TwoCharacterOperator", u"a == b", {{"a", 104}, {"==", 101}, {"b", 104}}},
     {"TwoCharacterOperatorNeedsAFollower", u"a==", {{"a", 104}, {"=", 101}, {"=", 101}}},
-    {"StreamOperators", u"1%%2%\\3%!4", {{"1", 103}, {"%%", 101}, {"2", 103}, {"%\\", 101}, {"3", 103}, {"%!", 101}, {"4", 103}}},
+    {"StreamOperators",
+     u"1%%2%\\3%!4",
+     {{"1", 103}, {"%%", 101}, {"2", 103}, {"%\\", 101}, {"3", 103}, {"%!", 101}, {"4", 103}}},
     {"FunctionName", u"sin(1)", {{"sin", 102}, {"(", 101}, {"1", 103}, {")", 101}}},
     {"BlankMakesFunctionAVariable", u"sin (1)", {{"sin", 104}, {"(", 101}, {"1", 103}, {")", 101}}},
     {"NumberRunsToDelimiter", u"12.5e3+1", {{"12.5e3", 103}, {"+", 101}, {"1", 103}}},

@@ -1,10 +1,11 @@
+#include "engine/token_stream.h"
+
 #include <gtest/gtest.h>
 
 #include "engine/engine_fixture.h"
 #include "engine/exponent_scan.h"
 #include "engine/name_lists.h"
 #include "engine/source_folding.h"
-#include "engine/token_stream.h"
 
 namespace tessarondel {
 namespace {

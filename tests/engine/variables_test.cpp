@@ -1,7 +1,8 @@
+#include "engine/variables.h"
+
 #include <gtest/gtest.h>
 
 #include "engine/engine_fixture.h"
-#include "engine/variables.h"
 
 namespace tessarondel {
 namespace {

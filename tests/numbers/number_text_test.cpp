@@ -1,16 +1,17 @@
+#include "numbers/number_text.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
 #include <charconv>
 #include <clocale>
-#include <cstdint>
-#include <random>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
+#include <random>
 #include <string>
 
 #include "numbers/ascii_text.h"
-#include "numbers/number_text.h"
 #include "numbers/run_failure.h"
 
 namespace tessarondel {
@@ -90,10 +91,10 @@ struct NumericRow {
 };
 
 const NumericRow kNumericRows[] = {
-    {"", false},     {".", false},    {"1.2.3", false}, {"2e", false},  {"2e+", false},  {"-2", false},
-    {" 2", false},   {"2 ", false},   {"e5", false},    {"1x", false},  {".e5", false},  {"1e2.5", false},
-    {".5", true},    {"5.", true},    {"1d5", true},    {"2e3", true},  {"2E-3", true},  {"12.5D+07", true},
-    {"007", true},   {"1.84467440737096E+19", true},
+    {"", false},    {".", false},     {"1.2.3", false},   {"2e", false}, {"2e+", false},
+    {"-2", false},  {" 2", false},    {"2 ", false},      {"e5", false}, {"1x", false},
+    {".e5", false}, {"1e2.5", false}, {".5", true},       {"5.", true},  {"1d5", true},
+    {"2e3", true},  {"2E-3", true},   {"12.5D+07", true}, {"007", true}, {"1.84467440737096E+19", true},
 };
 
 TEST(IsNumericText, AcceptsDigitsPointAndExponentOnly) {
@@ -110,8 +111,16 @@ struct ValueRow {
 
 TEST(TextToNumber, ReadsNumericTextsWithBlanksAndSign) {
     const ValueRow rows[] = {
-        {"12", 12},      {" 12.5 ", 12.5},       {".5", 0.5},     {"5.", 5},         {"1d5", 1e5},
-        {"2E-3", 2e-3},  {"-2.5", -2.5},         {"+7", 7},       {"1e-400", 0},     {"3.14159265358979", 3.14159265358979},
+        {"12", 12},
+        {" 12.5 ", 12.5},
+        {".5", 0.5},
+        {"5.", 5},
+        {"1d5", 1e5},
+        {"2E-3", 2e-3},
+        {"-2.5", -2.5},
+        {"+7", 7},
+        {"1e-400", 0},
+        {"3.14159265358979", 3.14159265358979},
         {"1.79769313486231E+308", 1.79769313486231e308},
     };
     for (const auto& row : rows) {
@@ -136,10 +145,21 @@ TEST(TextToNumber, BeyondTheDoubleRangeIsOverflow) {
 
 TEST(LeadingNumber, ReadsWhatFormsANumber) {
     const ValueRow rows[] = {
-        {"", 0},           {"abc", 0},         {".", 0},          {"12abc", 12},    {" 1 2 3 ", 123},
-        {".5", 0.5},       {"-3.5x", -3.5},    {"2e", 2},         {"2e+", 2},       {"2e3x", 2000},
-        {"3.33333333333333E-02", 3.33333333333333e-2},            {"1.18059162071741E+21", 1.18059162071741e21},
-        {"1d2", 100},      {"1.2.3", 1.2},     {"0.1000", 0.1},
+        {"", 0},
+        {"abc", 0},
+        {".", 0},
+        {"12abc", 12},
+        {" 1 2 3 ", 123},
+        {".5", 0.5},
+        {"-3.5x", -3.5},
+        {"2e", 2},
+        {"2e+", 2},
+        {"2e3x", 2000},
+        {"3.33333333333333E-02", 3.33333333333333e-2},
+        {"1.18059162071741E+21", 1.18059162071741e21},
+        {"1d2", 100},
+        {"1.2.3", 1.2},
+        {"0.1000", 0.1},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
@@ -152,7 +172,8 @@ TEST(LeadingNumber, BeyondTheDoubleRangeIsOverflow) { EXPECT_THROW(LeadingNumber
 // The value of x rounded to 15 significant digits from its exact binary value.
 double RoundedTo15Digits(double x) {
     std::array<char, 64> buffer{};
-    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), x, std::chars_format::scientific, 14);
+    const auto written =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), x, std::chars_format::scientific, 14);
     double rounded = 0;
     std::from_chars(buffer.data(), written.ptr, rounded);
     return rounded;

@@ -1,9 +1,10 @@
+#include "numbers/primitives.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdint>
 
-#include "numbers/primitives.h"
 #include "numbers/run_failure.h"
 
 namespace tessarondel {
@@ -13,8 +14,16 @@ TEST(ToInt32, RoundsHalfToEven) {
     const struct {
         double x;
         std::int32_t expected;
-    } rows[] = {{0.5, 0}, {1.5, 2}, {2.5, 2}, {-1.5, -2}, {-0.5, 0}, {7.5, 8}, {6.5, 6}, {2.4999, 2},
-                {-2147483648.0, INT32_MIN}, {2147483647.4, INT32_MAX}};
+    } rows[] = {{0.5, 0},
+                {1.5, 2},
+                {2.5, 2},
+                {-1.5, -2},
+                {-0.5, 0},
+                {7.5, 8},
+                {6.5, 6},
+                {2.4999, 2},
+                {-2147483648.0, INT32_MIN},
+                {2147483647.4, INT32_MAX}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.x);
         EXPECT_EQ(ToInt32(row.x), row.expected);
@@ -58,8 +67,8 @@ TEST(RoundHalfEven, JudgesTiesOnTheExactDouble) {
         double x;
         int places;
         double expected;
-    } rows[] = {{2.5, 0, 2},       {3.5, 0, 4},      {-2.5, 0, -2},     {0.125, 2, 0.12}, {0.375, 2, 0.38},
-                {2.675, 2, 2.67},  {1.005, 2, 1.0},  {3.14159, 2, 3.14}, {123.456, 22, 123.456}, {1e300, 0, 1e300}};
+    } rows[] = {{2.5, 0, 2},      {3.5, 0, 4},     {-2.5, 0, -2},      {0.125, 2, 0.12},       {0.375, 2, 0.38},
+                {2.675, 2, 2.67}, {1.005, 2, 1.0}, {3.14159, 2, 3.14}, {123.456, 22, 123.456}, {1e300, 0, 1e300}};
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.x << " at " << row.places);
         EXPECT_EQ(RoundHalfEven(row.x, row.places), row.expected);
