@@ -144,5 +144,21 @@ TEST(CustomCallEvaluation, DroppingAnUnknownNameShiftsTheFunctions) {
     EXPECT_EQ(engine.Evaluate(u"j()"), "2");
 }
 
+TEST(CustomCallEvaluation, ANameThatReachesItsOwnCallFailsInsteadOfHanging) {
+    EngineFixture engine;
+    engine.DefineAll({{u"j", u"", u"1"}, {u"k", u"", u"j()"}});
+    ASSERT_TRUE(DropCustomFunction(engine.state, u"zz"));
+    EXPECT_EQ(engine.Evaluate(u"j()"), "Error");
+    EXPECT_EQ(engine.state.ErrorNumber, 99);
+}
+
+TEST(CustomCallEvaluation, ANameThatReachesAGrowingCallOverflows) {
+    EngineFixture engine;
+    engine.DefineAll({{u"j", u"", u"1"}, {u"k", u"", u"j()+1+1+1+1+1+1+1+1+1+1+1+1+1+1+1+1"}});
+    ASSERT_TRUE(DropCustomFunction(engine.state, u"zz"));
+    EXPECT_EQ(engine.Evaluate(u"j()"), "Error");
+    EXPECT_EQ(engine.state.ErrorNumber, 6);
+}
+
 }  // namespace
 }  // namespace tessarondel

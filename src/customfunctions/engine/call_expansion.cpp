@@ -116,8 +116,14 @@ bool ExpandNextCall(EngineState& state, std::u16string& text, SlotList<std::u16s
             return false;
         }
         const std::u16string callText = text.substr(site.open - 1, site.close - site.open + 1);
+        // Only a table put out of step by dropping an unknown name lets a name
+        // reach a body that holds its own call. Then the restart finds the same
+        // call for ever: unchanged, a fault; growing, until the text is longer
+        // than its 16-bit positions can count.
+        if (replacement == callText) throw RunFailure("a call that expands to itself");
         // Every identical call goes at once, and any text that merely ends in it.
         text = ReplaceAll(text, callText, replacement);
+        Position(text.size());
         return true;
     } while (!state.CurrentToken.empty());
     return false;
