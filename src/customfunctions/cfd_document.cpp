@@ -60,18 +60,14 @@ std::u16string FirstLineBefore(LineReader& lines, std::u16string& line, std::u16
     return first;
 }
 
-bool IsDocumentFileName(const std::string& name) {
-    if (name.size() < 4) return false;
-    std::string extension = name.substr(name.size() - 4);
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return extension == ".cfd";
-}
-
 std::string FoldCase(std::string name) {
     std::transform(name.begin(), name.end(), name.begin(),
                    [](unsigned char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); });
     return name;
+}
+
+bool IsDocumentFileName(const std::string& name) {
+    return name.size() >= 4 && FoldCase(name.substr(name.size() - 4)) == ".cfd";
 }
 
 // The document files of the folder, by name ignoring case. A folder that is
