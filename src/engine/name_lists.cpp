@@ -1,7 +1,6 @@
 #include "engine/name_lists.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 namespace tessarondel {
@@ -28,12 +27,14 @@ public:
         for (std::size_t open = list.find(u'{'); open != std::u16string_view::npos; open = list.find(u'{', open + 1)) {
             const std::size_t close = list.find(u'}', open);
             const std::u16string_view entry = list.substr(open + 1, close - open - 1);
-            byLength_[std::min(entry.size(), MaxLength)].push_back(entry);
+            if (byLength_.size() <= entry.size()) byLength_.resize(entry.size() + 1);
+            byLength_[entry.size()].push_back(entry);
         }
     }
 
     bool Contains(std::u16string_view name) const {
-        if (name.size() >= MaxLength || HasListPunctuation(name)) return InBracedList(name, list_);
+        if (HasListPunctuation(name)) return InBracedList(name, list_);
+        if (name.size() >= byLength_.size()) return false;  // longer than every entry
         for (const std::u16string_view entry : byLength_[name.size()]) {
             if (entry[0] == name[0] && entry == name) return true;
         }
@@ -41,9 +42,8 @@ public:
     }
 
 private:
-    static constexpr std::size_t MaxLength = 16;  // longer entries live in the last bucket
     std::u16string_view list_;
-    std::array<std::vector<std::u16string_view>, MaxLength + 1> byLength_;
+    std::vector<std::vector<std::u16string_view>> byLength_;  // entries by their length
 };
 
 const BracedNameSet& BuiltinFunctions() {

@@ -1,5 +1,7 @@
 #include "engine/token_stream.h"
 
+#include <algorithm>
+
 #include "customfunctions/engine/call_expansion.h"
 #include "engine/errors.h"
 #include "engine/exponent_scan.h"
@@ -12,7 +14,7 @@ namespace {
 
 // Tabs, and CR LF pairs, become one blank each; a lone CR or LF stays.
 void BlankTabsAndLineEnds(std::u16string& src) {
-    if (src.find_first_of(u"\t\r") == std::u16string::npos) return;
+    if (std::none_of(src.begin(), src.end(), [](char16_t c) { return c == u'\t' || c == u'\r'; })) return;
     std::size_t out = 0;
     for (std::size_t i = 0; i < src.size(); ++i) {
         const bool lineEnd = src[i] == u'\r' && i + 1 < src.size() && src[i + 1] == u'\n';

@@ -3,10 +3,11 @@
 namespace tessarondel {
 
 std::u16string_view TrimBlanks(std::u16string_view text) {
-    const auto first = text.find_first_not_of(u' ');
-    if (first == std::u16string_view::npos) return {};
-    const auto last = text.find_last_not_of(u' ');
-    return text.substr(first, last - first + 1);
+    std::size_t first = 0;
+    std::size_t end = text.size();
+    while (first < end && text[first] == u' ') ++first;
+    while (end > first && text[end - 1] == u' ') --end;
+    return text.substr(first, end - first);
 }
 
 std::u16string AsciiLower(std::u16string_view text) {
