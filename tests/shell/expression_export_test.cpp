@@ -1,0 +1,70 @@
+// Saving the expression list as text.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "shell_fakes.h"
+
+namespace tessarondel::testing {
+namespace {
+
+class ExpressionExport : public MainWindowTest {
+protected:
+    ExpressionExport() {
+        folder = std::filesystem::temp_directory_path() /
+                 ("tessarondel-export-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+        std::filesystem::remove_all(folder);
+        std::filesystem::create_directories(folder);
+    }
+    ~ExpressionExport() override { std::filesystem::remove_all(folder); }
+
+    std::string SaveAs(const std::filesystem::path& file) {
+        saveDialog.Answer = file.u16string();
+        main.cmdlvOutput(3);
+        std::ifstream in(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    }
+
+    std::filesystem::path folder;
+};
+
+TEST_F(ExpressionExport, RowsBecomeTabSeparatedUtf8LinesWithCrLf) {
+    Enter(u"1+2");
+    Enter(u"1/0");
+    Enter(u"'caf\u00e9");
+    const std::string text = SaveAs(folder / "list.txt");
+    EXPECT_EQ(text,
+              "1+2\t3\r\n"
+              "1/0\tError:The parameters of the functions or operators are invalid!\r\n"
+              "'caf\xc3\xa9\tTessarondel Note Line\r\n");
+    EXPECT_EQ(U8(saveDialog.Filters.at(0)), "Tessarondel Expression Text(*.txt)|*.txt");
+}
+
+TEST_F(ExpressionExport, AnEmptyListGivesAnEmptyFileAndAnOldFileIsReplaced) {
+    const std::filesystem::path file = folder / "old.txt";
+    std::ofstream(file) << "old content\r\n";
+    EXPECT_EQ(SaveAs(file), "");
+    EXPECT_TRUE(std::filesystem::exists(file));
+}
+
+TEST_F(ExpressionExport, CancellingTheDialogWritesNothing) {
+    Enter(u"1");
+    saveDialog.Answer = u"  ";
+    main.cmdlvOutput(3);
+    EXPECT_EQ(saveDialog.Filters.size(), 1u);
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+}
+
+TEST_F(ExpressionExport, AFileThatCannotBeWrittenIsReportedAndTheListStays) {
+    Enter(u"1+2");
+    Enter(u"3*4");
+    box.ExpectNotice(u"Unknown error occurred!", u"Error");
+    SaveAs(folder / "missing-folder" / "list.txt");
+    EXPECT_TRUE(box.AllShown());
+    ASSERT_EQ(main.Expressions().Rows().size(), 2u);
+    EXPECT_EQ(U8(main.Expressions().Rows()[1].Record.Result), "12");
+    EXPECT_EQ(SaveAs(folder / "list.txt"), "1+2\t3\r\n3*4\t12\r\n");
+}
+
+}  // namespace
+}  // namespace tessarondel::testing

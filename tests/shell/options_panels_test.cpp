@@ -1,0 +1,162 @@
+// Options, panels, the window's load, help, the Information menu and the
+// main pop-up menu.
+#include "shell/panel_layout.h"
+#include "shell_fakes.h"
+
+namespace tessarondel::testing {
+namespace {
+
+struct ArrangeRow {
+    const char* name;
+    bool listVisible;
+    bool inputVisible;
+    std::int32_t calculatorTop;
+    std::int32_t inputTop;
+    std::int32_t formHeight;
+    std::int32_t stateTop;
+    std::int32_t windowHeight;
+};
+
+// List 1000, calculator 2000, input 3000, foot 300 high.
+const ArrangeRow kArrangeRows[] = {
+    {"BothPanels", true, true, 1023, 3023, 6083, 6141, 6911},
+    {"ListOnly", true, false, 1023, 3023, 3083, 3141, 3911},
+    {"InputOnly", false, true, 8, 2008, 5068, 5126, 5896},
+    {"CalculatorStrip", false, false, 8, 2008, 2068, 2126, 2896},
+};
+
+class ArrangePanelsRows : public ::testing::TestWithParam<ArrangeRow> {};
+
+TEST_P(ArrangePanelsRows, StackPanelsWithTheFixedGaps) {
+    const ArrangeRow& row = GetParam();
+    PanelLayout layout;
+    layout.ExpressionList = {500, 1000, row.listVisible};
+    layout.Calculator = {0, 2000, true};
+    layout.InputPanel = {0, 3000, row.inputVisible};
+    layout.State = {0, 300, true};
+    ArrangePanels(layout);
+    EXPECT_EQ(layout.ExpressionList.Top, 8);
+    EXPECT_EQ(layout.Calculator.Top, row.calculatorTop);
+    EXPECT_EQ(layout.InputPanel.Top, row.inputTop);
+    EXPECT_EQ(layout.Form.Top, 8);
+    EXPECT_EQ(layout.Form.Height, row.formHeight);
+    EXPECT_EQ(layout.State.Top, row.stateTop);
+    EXPECT_EQ(layout.WindowHeight, row.windowHeight);
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, ArrangePanelsRows, ::testing::ValuesIn(kArrangeRows),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+using OptionsSession = MainWindowTest;
+
+TEST_F(OptionsSession, FirstRunCentresWithListKeypadAndQuickReference) {
+    EXPECT_EQ(main.WindowLeft(), (19200 - main.Layout().WindowWidth) / 2.0);
+    EXPECT_EQ(main.WindowTop(), (14400 - main.Layout().WindowHeight) / 2.0);
+    EXPECT_TRUE(main.Option(OptionExpressionList));
+    EXPECT_TRUE(main.Option(OptionInputPanel));
+    EXPECT_FALSE(main.Option(OptionStayOnTop));
+    EXPECT_FALSE(main.VariableWindowVisible());
+    EXPECT_FALSE(main.FunctionManagerVisible());
+    EXPECT_TRUE(main.QuickRefShown());
+    EXPECT_EQ(main.WindowShownState(), 1);
+    EXPECT_FALSE(engine.ShowErrorBox);
+    EXPECT_EQ(U8(engine.ErrorBoxTitle), "Tessarondel Error Information");
+}
+
+TEST_F(OptionsSession, StoredStateIsRestoredAndWrittenBack) {
+    MainWindowModel other(engine, ShellPlatform{box, clipboard, saveDialog, opener}, ShellEnvironment{});
+    other.Load(FormInfoTexts{u"0", u"120", u"0", u"0", u"0", u"1"}, ScreenSize{19200, 14400});
+    EXPECT_EQ(other.WindowLeft(), 0.0);
+    EXPECT_EQ(other.WindowTop(), 120.0);
+    EXPECT_FALSE(other.Layout().ExpressionList.Visible);
+    EXPECT_FALSE(other.Layout().InputPanel.Visible);
+    EXPECT_FALSE(other.QuickRefShown());
+    EXPECT_TRUE(other.Option(OptionStayOnTop));
+    EXPECT_EQ(other.CurrentFormInfo(), (FormInfoTexts{u"0", u"120", u"0", u"0", u"0", u"1"}));
+}
+
+TEST_F(OptionsSession, NonsenseSettingsReadAsZero) {
+    MainWindowModel other(engine, ShellPlatform{box, clipboard, saveDialog, opener}, ShellEnvironment{});
+    other.Load(FormInfoTexts{u"left", u"12abc", u"yes", u"2.7", u"", u"-0.5"}, ScreenSize{19200, 14400});
+    EXPECT_EQ(other.WindowLeft(), 0.0);
+    EXPECT_EQ(other.WindowTop(), 12.0);
+    EXPECT_FALSE(other.Option(OptionExpressionList));
+    EXPECT_TRUE(other.Option(OptionInputPanel));
+    EXPECT_FALSE(other.QuickRefShown());
+    EXPECT_TRUE(other.Option(OptionStayOnTop));  // -0.5 rounds down to -1
+}
+
+TEST_F(OptionsSession, PanelsSwitchOffAndComeBackWithTheirContent) {
+    Enter(u"1");
+    const std::int32_t fullHeight = main.Layout().WindowHeight;
+    main.ClickOption(OptionExpressionList);
+    main.ClickOption(OptionInputPanel);
+    EXPECT_FALSE(main.Layout().ExpressionList.Visible);
+    EXPECT_EQ(main.Layout().Calculator.Top, 8);
+    EXPECT_LT(main.Layout().WindowHeight, fullHeight);
+    main.ClickOption(OptionExpressionList);
+    main.ClickOption(OptionInputPanel);
+    EXPECT_EQ(main.Layout().WindowHeight, fullHeight);
+    EXPECT_EQ(main.Expressions().Rows().size(), 1u);
+    EXPECT_TRUE(Announced(MainWindowChange::Layout));
+}
+
+TEST_F(OptionsSession, SideWindowsFollowTheirBoxesAndTheMainMenuChecks) {
+    main.ChooseMainMenu(2);
+    EXPECT_TRUE(main.VariableWindowVisible());
+    EXPECT_TRUE(main.Menus().Main[2].Checked);
+    main.Variables().cmdBtn(2);
+    EXPECT_FALSE(main.VariableWindowVisible());
+    EXPECT_FALSE(main.Menus().Main[2].Checked);
+    main.ClickCustomFunctions();
+    EXPECT_TRUE(main.FunctionManagerVisible());
+    EXPECT_TRUE(main.Menus().Main[3].Checked);
+}
+
+TEST_F(OptionsSession, TheToggleAndTheFrameCloseFlipTheShownState) {
+    main.CloseByFrame();
+    EXPECT_EQ(main.WindowShownState(), 0);
+    main.ChooseMainMenu(0);
+    EXPECT_EQ(main.WindowShownState(), 1);
+}
+
+TEST_F(OptionsSession, MenuCommandsThatOpenOtherWindowsAreAnnounced) {
+    main.ChooseMainMenu(5);
+    main.ChooseInformation(9);
+    main.ChooseInformation(7);
+    main.ChooseMainMenu(8);
+    EXPECT_TRUE(Announced(MainWindowChange::OptionsDialogRequested));
+    EXPECT_TRUE(Announced(MainWindowChange::AboutRequested));
+    EXPECT_TRUE(Announced(MainWindowChange::CheckForUpdateRequested));
+    EXPECT_TRUE(Announced(MainWindowChange::ExitRequested));
+}
+
+TEST_F(OptionsSession, HelpOpensTheFileBesideTheProgram) {
+    main.ClickHelp();
+    ASSERT_EQ(opener.Opened.size(), 1u);
+    EXPECT_EQ(U8(opener.Opened[0]), TESSARONDEL_TEST_DATA "/shell/program/help.chm");
+}
+
+TEST_F(OptionsSession, MissingReadmeAndChangesAreReported) {
+    box.ExpectNotice(u"Can not find the Readme file " + ToUtf16(TESSARONDEL_TEST_DATA "/shell/program/ReadMe.txt"),
+                     u"Information");
+    main.ChooseInformation(0);
+    box.ExpectNotice(u"Can not find the file " + ToUtf16(TESSARONDEL_TEST_DATA "/shell/program/ChangesLog.txt"),
+                     u"Information");
+    main.ChooseInformation(1);
+    EXPECT_TRUE(opener.Opened.empty());
+}
+
+TEST_F(OptionsSession, LinksGoToTheMakersAddresses) {
+    main.ChooseInformation(3);
+    main.ChooseInformation(4);
+    main.ChooseInformation(6);
+    main.ClickLogo();
+    EXPECT_EQ(opener.Opened, (std::vector<std::u16string>{
+                                 u"mailto:support@example.org?subject=Tessarondel Bug Report",
+                                 u"mailto:mail@example.org?subject=Suggest a feature for Tessarondel",
+                                 u"http://www.example.org/tq/index.htm", u"http://www.example.org/tq/index.htm"}));
+}
+
+}  // namespace
+}  // namespace tessarondel::testing

@@ -1,0 +1,128 @@
+// The display: bases, the complement box, its look and tip, the double click,
+// the auto-rounding list and the Quick Reference pair.
+#include "shell_fakes.h"
+
+namespace tessarondel::testing {
+namespace {
+
+using ResultDisplaySession = MainWindowTest;
+
+struct BaseRow {
+    const char* name;
+    const char16_t* input;
+    int base;
+    bool complement;
+    const char* shown;
+};
+
+const BaseRow kBaseRows[] = {
+    {"HexPositive", u"255", 3, false, "$HFF"},
+    {"HexNegativePlain", u"-255", 3, false, "-$HFF"},
+    {"HexNegativeComplement", u"-255", 3, true, "$HFFFFFF01"},
+    {"OctalComplement", u"-255", 2, true, "$O37777777401"},
+    {"BinaryMinusOneComplement", u"-1", 0, true, "$B11111111111111111111111111111111"},
+    {"BelowTwoToThe32FallsBackToPlain", u"-4294967297", 3, true, "-$H100000001"},
+    {"PositiveWithBoxChecked", u"10", 0, true, "$B1010"},
+    {"ZeroBinary", u"0", 0, false, "$B0"},
+    {"PointFourRoundsDown", u"0.4", 0, false, "$B0"},
+    {"PointFiveRoundsUp", u"0.5", 0, false, "$B1"},
+    {"DecimalShowsTheEnginesText", u"1/4", 1, true, "0.25"},
+};
+
+class BaseDisplays : public MainWindowTest, public ::testing::WithParamInterface<BaseRow> {};
+
+TEST_P(BaseDisplays, ShowTheValueInTheChosenBase) {
+    const BaseRow& row = GetParam();
+    main.ClickFormatNeg(row.complement);
+    main.FocusBaseOption(row.base);
+    Enter(row.input);
+    EXPECT_EQ(Display(), row.shown);
+    EXPECT_EQ(U8(LastRow().Record.Result), row.shown);
+    EXPECT_EQ(main.Display().FormatNegVisible(), row.base != 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Bases, BaseDisplays, ::testing::ValuesIn(kBaseRows),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(ResultDisplaySession, ChoosingABaseRewritesTheShownResult) {
+    Enter(u"-255");
+    main.FocusBaseOption(3);
+    EXPECT_EQ(Display(), "-$HFF");
+    main.ClickFormatNegLabel();
+    EXPECT_TRUE(main.Display().FormatNegChecked());
+    EXPECT_EQ(Display(), "$HFFFFFF01");
+    main.FocusBaseOption(1);
+    EXPECT_EQ(Display(), "-255");
+    EXPECT_FALSE(main.Display().FormatNegVisible());
+    EXPECT_TRUE(main.Display().FormatNegChecked());  // the tick stays for the next base
+}
+
+TEST_F(ResultDisplaySession, ChoosingABaseWhileAnErrorStandsKeepsTheMessage) {
+    Enter(u"1/0");
+    main.FocusBaseOption(3);
+    EXPECT_EQ(Display(), "The parameters of the functions or operators are invalid!");
+    EXPECT_EQ(main.Display().SelectedBase(), 3);
+}
+
+TEST_F(ResultDisplaySession, ToolTipNamesTheAnswerOrTheError) {
+    Enter(u"6*7");
+    EXPECT_EQ(U8(main.Display().ToolTip()), "The last answer - [42]");
+    Enter(u"1/0");
+    EXPECT_EQ(U8(main.Display().ToolTip()),
+              "Error occurred! - [The parameters of the functions or operators are invalid!]");
+}
+
+TEST_F(ResultDisplaySession, DoubleClickInsertsCopiesAndExplains) {
+    main.FocusBaseOption(3);
+    Enter(u"255");
+    main.DoubleClickDisplay();
+    EXPECT_EQ(InputText(), "($HFF)");
+    EXPECT_EQ(U8(clipboard.Text), "$HFF");
+    EXPECT_EQ(QuickReference(), "Insert Object:($HFF)\r\nThe last answer.");
+    main.PressEnter();
+    EXPECT_EQ(Display(), "$HFF");
+}
+
+TEST_F(ResultDisplaySession, DoubleClickAfterAnErrorDoesNothing) {
+    Enter(u"1/0");
+    main.DoubleClickDisplay();
+    EXPECT_EQ(InputText(), "");
+    EXPECT_TRUE(clipboard.Text.empty());
+}
+
+TEST_F(ResultDisplaySession, AutoRoundingStartsOffAndSetsTheEngine) {
+    EXPECT_EQ(engine.ApproximateBits, -1);
+    EXPECT_EQ(ResultDisplay::ApproximateEntries().size(), 24u);
+    EXPECT_EQ(U8(main.Display().ApproximateToolTip()), "Auto Round Operation according to the appointed bits - [Off]");
+    main.SelectApproximate(3);
+    EXPECT_EQ(engine.ApproximateBits, 2);
+    EXPECT_EQ(U8(main.Display().ApproximateToolTip()), "Auto Round Operation according to the appointed bits - [2]");
+    Enter(u"1/3");
+    EXPECT_EQ(Display(), "0.33");
+}
+
+TEST_F(ResultDisplaySession, QuickReferencePairSwapsAndResizesTheInputPanel) {
+    EXPECT_TRUE(main.QuickRefShown());
+    EXPECT_TRUE(main.QuickReferenceButtonVisible(0));
+    const std::int32_t shownHeight = main.Layout().WindowHeight;
+    main.ClickQuickReferenceButton(0);
+    EXPECT_FALSE(main.QuickRefShown());
+    EXPECT_TRUE(main.QuickReferenceButtonVisible(1));
+    EXPECT_FALSE(main.QuickReferenceButtonVisible(0));
+    EXPECT_EQ(main.Layout().InputPanel.Height, 2528);
+    EXPECT_EQ(main.Layout().WindowHeight, shownHeight - (3360 - 2528));
+    main.ClickQuickReferenceButton(1);
+    EXPECT_EQ(main.Layout().InputPanel.Height, 3360);
+    EXPECT_EQ(main.Layout().WindowHeight, shownHeight);
+}
+
+TEST_F(ResultDisplaySession, DisplayStartsAtZeroInTheResultLook) {
+    EXPECT_EQ(Display(), "0");
+    EXPECT_EQ(main.Display().Look(), (DisplayLook{0xFFFFC0, 12, true, false}));
+    EXPECT_EQ(main.Display().SelectedBase(), 1);
+    EXPECT_FALSE(main.Display().FormatNegVisible());
+    EXPECT_EQ(QuickReference(), "Quick Reference\r\n");
+}
+
+}  // namespace
+}  // namespace tessarondel::testing
