@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "engine/engine_state.h"
+#include "numbers/base_display.h"
 
 namespace tessarondel {
 
@@ -22,8 +23,6 @@ struct DisplayLook {
 
 inline constexpr DisplayLook kResultLook{0xFFFFC0, 12, true, false};
 inline constexpr DisplayLook kErrorLook{0xFF0000, 8, true, false};
-
-enum BaseIndex : int { BaseBinary = 0, BaseDecimal = 1, BaseOctal = 2, BaseHexadecimal = 3 };
 
 // The result display with its base options, the "Format Negative" box and the
 // auto-rounding list. It reads the engine's error fields for its look and tip.
@@ -73,7 +72,7 @@ private:
     std::u16string text_ = u"0";
     DisplayLook look_ = kResultLook;
     bool baseOptionsVisible_ = true;
-    int selectedBase_ = BaseDecimal;
+    int selectedBase_ = BaseIndexDecimal;
     bool formatNegChecked_ = false;
     bool formatNegVisible_ = false;
     int approximateIndex_ = 0;
