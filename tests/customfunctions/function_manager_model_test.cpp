@@ -75,7 +75,7 @@ const std::string kSaveFault = "Some errors occurred when Saving the Custom Func
 const std::string kRemoveFault = "Some errors occurred when removing the Custom Function! | Error Information";
 
 class FunctionManager : public ::testing::Test {
-protected:
+public:
     FunctionManager() {
         engine.ShowMessageBox = [this](const std::u16string& text, const std::u16string&) {
             engineBoxes.push_back(U8(text));
@@ -285,7 +285,7 @@ TEST_F(FunctionManager, ANameThatExistsGetsTheEnginesBoxAndTheStateStays) {
     Load({kHyp});
     TypeNew({u"hyp", u"x", u"x", u""});
     manager.cmdOK();
-    EXPECT_EQ(engineBoxes, (std::vector<std::string>{"Redefine the custom functions!"}));
+    EXPECT_EQ(engineBoxes, (std::vector<std::string>{"ErrNum:9\r\nErrInformation:Redefine the custom functions!"}));
     EXPECT_EQ(engine.ErrorNumber, 9);
     EXPECT_EQ(manager.State(), ManagerState::New);
     EXPECT_EQ(Field(FunctionField::Name), "hyp");
@@ -297,13 +297,14 @@ TEST_F(FunctionManager, ANameThatExistsGetsTheEnginesBoxAndTheStateStays) {
 TEST_F(FunctionManager, AFileThatCannotBeWrittenKeepsTheFunctionButStaysInNew) {
     Load({});
     store.failWrites = true;
-    TypeNew({u"sq", u"x", u"x*x", u""});
+    TypeNew({u"square", u"x", u"x*x", u""});
     manager.cmdOK();
     EXPECT_EQ(host.notices, (std::vector<std::string>{kSaveFault}));
     EXPECT_EQ(manager.State(), ManagerState::New);
     EXPECT_EQ(manager.Rows().size(), 1u);
-    EXPECT_EQ(Evaluate(u"sq(5)"), "25");
+    EXPECT_EQ(Evaluate(u"square(5)"), "25");
     EXPECT_FALSE(engine.ShowErrorBox);
+    EXPECT_TRUE(engineBoxes.empty()) << engineBoxes.front();
 }
 
 // --- Saving an edited function -----------------------------------------------------
