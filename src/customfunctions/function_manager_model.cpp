@@ -45,20 +45,25 @@ bool FolderDocumentStore::Delete(std::u16string_view name) { return DeleteFuncti
 
 FunctionManagerModel::ButtonText FunctionManagerModel::Text(ManagerButton button) {
     switch (button) {
-        case ManagerButton::New: return {u"New", u"Create new custom function"};
-        case ManagerButton::Edit: return {u"Edit", u"Edit the selected custom function"};
-        case ManagerButton::Delete: return {u"Delete", u"Delete the selected custom function"};
+        case ManagerButton::New:
+            return {u"New", u"Create new custom function"};
+        case ManagerButton::Edit:
+            return {u"Edit", u"Edit the selected custom function"};
+        case ManagerButton::Delete:
+            return {u"Delete", u"Delete the selected custom function"};
         case ManagerButton::Insert:
             return {u"Insert to Input Area", u"Insert the selected custom function to Input Area"};
-        case ManagerButton::Close: return {u"Close", u""};
-        case ManagerButton::Ok: return {u"Save", u""};
-        case ManagerButton::Cancel: return {u"Cancel", u""};
+        case ManagerButton::Close:
+            return {u"Close", u""};
+        case ManagerButton::Ok:
+            return {u"Save", u""};
+        case ManagerButton::Cancel:
+            return {u"Cancel", u""};
     }
     return {u"", u""};
 }
 
-FunctionManagerModel::FunctionManagerModel(EngineState& engine, FunctionDocumentStore& store,
-                                           FunctionManagerHost& host)
+FunctionManagerModel::FunctionManagerModel(EngineState& engine, FunctionDocumentStore& store, FunctionManagerHost& host)
     : engine_(engine), store_(store), host_(host), menu_{{u"Add New...", u""}, {u"-", u""}} {}
 
 void FunctionManagerModel::Notify(FunctionManagerChange change) const {
@@ -66,8 +71,7 @@ void FunctionManagerModel::Notify(FunctionManagerChange change) const {
 }
 
 std::u16string FunctionManagerModel::QuickReferenceText(const CustomFunctionDocument& document) {
-    return u"Function:" + document.Name + u"(" + document.ParameterText + u")\r\nDescription:" +
-           document.Description;
+    return u"Function:" + document.Name + u"(" + document.ParameterText + u")\r\nDescription:" + document.Description;
 }
 
 ManagerState FunctionManagerModel::State() const {
@@ -77,12 +81,17 @@ ManagerState FunctionManagerModel::State() const {
 
 bool FunctionManagerModel::ButtonEnabled(ManagerButton button) const {
     switch (button) {
-        case ManagerButton::New: return newEnabled_;
-        case ManagerButton::Edit: return editEnabled_;
-        case ManagerButton::Delete: return deleteEnabled_;
+        case ManagerButton::New:
+            return newEnabled_;
+        case ManagerButton::Edit:
+            return editEnabled_;
+        case ManagerButton::Delete:
+            return deleteEnabled_;
         case ManagerButton::Ok:
-        case ManagerButton::Cancel: return okCancelEnabled_;
-        default: return true;
+        case ManagerButton::Cancel:
+            return okCancelEnabled_;
+        default:
+            return true;
     }
 }
 

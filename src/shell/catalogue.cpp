@@ -48,8 +48,8 @@ CatalogueMenus initMenu() {
         menus.ConstantGroups.push_back({constantGroups[i].Caption, u""});
         menus.Constants[i] = ConstantMenu(constantGroups[i]);
     }
-    menus.ClearOther = CaptionsMenu(
-        {u"Clear Expression List", u"Clear Variables List", u"Clear History List", u"-", u"Clear All"});
+    menus.ClearOther =
+        CaptionsMenu({u"Clear Expression List", u"Clear Variables List", u"Clear History List", u"-", u"Clear All"});
     menus.Information = CaptionsMenu({u"Readme", u"Changes", u"-", u"Bug report", u"Suggest a feature", u"-",
                                       u"Tessarondel Home Page", u"Check New", u"-", u"About"});
     menus.Main = CaptionsMenu({u"Show/Hide Tessarondel", u"-", u"Variable List", u"Custom Function Manager", u"-",

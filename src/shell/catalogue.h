@@ -40,13 +40,13 @@ inline constexpr int kCustomConstantGroup = 5;
 
 // The menus that initMenu builds once; their items carry the data as tags.
 struct CatalogueMenus {
-    Menu FunctionGroups;                   // mnuBIFuns
-    std::array<Menu, 4> Functions;         // mnuBIFuns0..3
-    Menu ConstantGroups;                   // mnuConst
-    std::array<Menu, 6> Constants;         // mnuConst0..3 and 5; 4 stays empty
-    Menu ClearOther;                       // mnuCO
-    Menu Information;                      // mnuInformation
-    Menu Main;                             // mnuMain, the tray's pop-up
+    Menu FunctionGroups;            // mnuBIFuns
+    std::array<Menu, 4> Functions;  // mnuBIFuns0..3
+    Menu ConstantGroups;            // mnuConst
+    std::array<Menu, 6> Constants;  // mnuConst0..3 and 5; 4 stays empty
+    Menu ClearOther;                // mnuCO
+    Menu Information;               // mnuInformation
+    Menu Main;                      // mnuMain, the tray's pop-up
 };
 
 CatalogueMenus initMenu();

@@ -41,8 +41,7 @@ void MainWindowModel::Evaluate() {
     results_.AddResultListItem(Trimmed(engine_.ErrorFlag ? u"Error#" + errorNumber : display_.Text()));
     Notify(MainWindowChange::ResultItemAdded);
 
-    ExpressionRecord record{Trimmed(raw), engine_.ErrorFlag ? u"Error:" + Trimmed(engine_.ErrorText)
-                                                            : display_.Text()};
+    ExpressionRecord record{Trimmed(raw), engine_.ErrorFlag ? u"Error:" + Trimmed(engine_.ErrorText) : display_.Text()};
     expressions_.AddExpressionRow(std::move(record));
     Notify(MainWindowChange::ExpressionRowAdded);
 
@@ -75,11 +74,20 @@ void MainWindowModel::SelectExpressionRow(std::optional<std::size_t> row) {
 
 void MainWindowModel::cmdlvOutput(int index) {
     switch (index) {
-        case 0: InsertSelectedExpression(); break;
-        case 1: ClearExpressionList(); break;
-        case 2: CopySelectedExpression(); break;
-        case 3: SaveExpressionList(); break;
-        default: break;
+        case 0:
+            InsertSelectedExpression();
+            break;
+        case 1:
+            ClearExpressionList();
+            break;
+        case 2:
+            CopySelectedExpression();
+            break;
+        case 3:
+            SaveExpressionList();
+            break;
+        default:
+            break;
     }
     Notify(MainWindowChange::FocusInputArea);
 }
@@ -136,11 +144,20 @@ void MainWindowModel::ChooseResultListItem(std::size_t index) {
 
 void MainWindowModel::mnuCO(int index) {
     switch (index) {
-        case 0: cmdlvOutput(1); break;
-        case 1: variables_.ClearVarList(); break;
-        case 2: ClearHistory(); break;
-        case 4: ClearAll(); break;
-        default: break;
+        case 0:
+            cmdlvOutput(1);
+            break;
+        case 1:
+            variables_.ClearVarList();
+            break;
+        case 2:
+            ClearHistory();
+            break;
+        case 4:
+            ClearAll();
+            break;
+        default:
+            break;
     }
 }
 

@@ -1,7 +1,6 @@
 // frmMain: start-up, options and panels, help, the Information and main menus.
 #include "shell/main_window_model.h"
 
-#include <cmath>
 
 #include "numbers/number_text.h"
 #include "numbers/primitives.h"
@@ -93,13 +92,19 @@ void MainWindowModel::RunOptionHandler(int index) {
             layout_.ExpressionList.Visible = Option(index);
             ArrangePanels();
             break;
-        case OptionVariableList: ShowSideWindow(2, Option(index)); break;
-        case OptionFunctionManager: ShowSideWindow(3, Option(index)); break;
+        case OptionVariableList:
+            ShowSideWindow(2, Option(index));
+            break;
+        case OptionFunctionManager:
+            ShowSideWindow(3, Option(index));
+            break;
         case OptionInputPanel:
             layout_.InputPanel.Visible = Option(index);
             ArrangePanels();
             break;
-        default: Notify(MainWindowChange::StayOnTop); break;
+        default:
+            Notify(MainWindowChange::StayOnTop);
+            break;
     }
     Notify(MainWindowChange::Options);
     Notify(MainWindowChange::FocusInputArea);
@@ -117,8 +122,8 @@ void MainWindowModel::ArrangePanels() {
 
 void MainWindowModel::ClickQuickReferenceButton(int index) {
     quickRefShown_ = index != 0;
-    layout_.InputPanel.Height = quickRefShown_ ? PanelLayout::kInputPanelWithQuickReference
-                                               : PanelLayout::kInputPanelWithoutQuickReference;
+    layout_.InputPanel.Height =
+        quickRefShown_ ? PanelLayout::kInputPanelWithQuickReference : PanelLayout::kInputPanelWithoutQuickReference;
     Notify(MainWindowChange::QuickReferencePair);
     ArrangePanels();
     Notify(MainWindowChange::FocusInputArea);
@@ -143,30 +148,54 @@ void MainWindowModel::ClickLogo() { platform_.Opener.ShellOpen(HomePage()); }
 void MainWindowModel::ChooseInformation(int index) {
     const MakerAddresses& maker = environment_.Maker;
     switch (index) {
-        case 0: OpenProgramFile(u"ReadMe.txt", u"Can not find the Readme file "); break;
-        case 1: OpenProgramFile(u"ChangesLog.txt", u"Can not find the file "); break;
+        case 0:
+            OpenProgramFile(u"ReadMe.txt", u"Can not find the Readme file ");
+            break;
+        case 1:
+            OpenProgramFile(u"ChangesLog.txt", u"Can not find the file ");
+            break;
         case 3:
             platform_.Opener.ShellOpen(u"mailto:" + maker.SupportMailbox + u"?subject=Tessarondel Bug Report");
             break;
         case 4:
             platform_.Opener.ShellOpen(u"mailto:" + maker.Mailbox + u"?subject=Suggest a feature for Tessarondel");
             break;
-        case 6: platform_.Opener.ShellOpen(HomePage()); break;
-        case 7: Notify(MainWindowChange::CheckForUpdateRequested); break;
-        case 9: Notify(MainWindowChange::AboutRequested); break;
-        default: break;
+        case 6:
+            platform_.Opener.ShellOpen(HomePage());
+            break;
+        case 7:
+            Notify(MainWindowChange::CheckForUpdateRequested);
+            break;
+        case 9:
+            Notify(MainWindowChange::AboutRequested);
+            break;
+        default:
+            break;
     }
 }
 
 void MainWindowModel::ChooseMainMenu(int index) {
     switch (index) {
-        case 0: ToggleWindowShown(); break;
-        case 2: ClickOption(OptionVariableList); break;
-        case 3: ClickOption(OptionFunctionManager); break;
-        case 5: ClickOptions(); break;
-        case 6: Notify(MainWindowChange::AboutRequested); break;
-        case 8: ClickExit(); break;
-        default: break;
+        case 0:
+            ToggleWindowShown();
+            break;
+        case 2:
+            ClickOption(OptionVariableList);
+            break;
+        case 3:
+            ClickOption(OptionFunctionManager);
+            break;
+        case 5:
+            ClickOptions();
+            break;
+        case 6:
+            Notify(MainWindowChange::AboutRequested);
+            break;
+        case 8:
+            ClickExit();
+            break;
+        default:
+            break;
     }
 }
 

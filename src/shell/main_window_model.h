@@ -27,23 +27,23 @@ namespace tessarondel {
 // What changed, so the desktop redraws only that. Rows are announced one by
 // one as they are appended; a list is only ever cleared whole.
 enum class MainWindowChange {
-    InputArea,          // text, selection (caret)
-    Display,            // text and look of the result display
-    BaseOptions,        // OptBaseNum visibility and selection, chkFormatNeg and its label
-    Approximate,        // comApproximateBit selection and tool tip
-    QuickReference,     // its text
-    QuickReferencePair, // cmdLedBtn pair, QuickReference and PanelQR visibility
-    Layout,             // panel geometry and visibility, window height
-    ExpressionRowAdded, // the last row of ExpressionList is new
+    InputArea,           // text, selection (caret)
+    Display,             // text and look of the result display
+    BaseOptions,         // OptBaseNum visibility and selection, chkFormatNeg and its label
+    Approximate,         // comApproximateBit selection and tool tip
+    QuickReference,      // its text
+    QuickReferencePair,  // cmdLedBtn pair, QuickReference and PanelQR visibility
+    Layout,              // panel geometry and visibility, window height
+    ExpressionRowAdded,  // the last row of ExpressionList is new
     ExpressionListCleared,
     ExpressionSelection,
-    ResultItemAdded,    // the last item of the Result List is new
+    ResultItemAdded,  // the last item of the Result List is new
     ResultListCleared,
-    Options,            // chkOpt states, side window visibility, check marks of the main menu
+    Options,  // chkOpt states, side window visibility, check marks of the main menu
     StayOnTop,
-    WindowShown,        // WindowShownState
+    WindowShown,  // WindowShownState
     WindowPosition,
-    FocusInputArea,     // the keyboard focus goes to the InputArea
+    FocusInputArea,  // the keyboard focus goes to the InputArea
     OptionsDialogRequested,
     AboutRequested,
     CheckForUpdateRequested,

@@ -20,10 +20,14 @@ namespace {
 template <typename Texts>
 auto& FieldOf(Texts& texts, ProxyField field) {
     switch (field) {
-        case ProxyField::Port: return texts.Port;
-        case ProxyField::UserName: return texts.UserName;
-        case ProxyField::Password: return texts.Password;
-        default: return texts.Proxy;
+        case ProxyField::Port:
+            return texts.Port;
+        case ProxyField::UserName:
+            return texts.UserName;
+        case ProxyField::Password:
+            return texts.Password;
+        default:
+            return texts.Proxy;
     }
 }
 

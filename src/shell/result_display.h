@@ -28,8 +28,7 @@ inline constexpr DisplayLook kErrorLook{0xFF0000, 8, true, false};
 // auto-rounding list. It reads the engine's error fields for its look and tip.
 class ResultDisplay {
 public:
-    static constexpr std::array<const char16_t*, 4> kBaseCaptions{u"Binary", u"Decimal", u"Octal",
-                                                                  u"HEXadecimal"};
+    static constexpr std::array<const char16_t*, 4> kBaseCaptions{u"Binary", u"Decimal", u"Octal", u"HEXadecimal"};
     static constexpr const char16_t* kFormatNegCaption = u"Format Negative";
     static constexpr const char16_t* kFormatNegToolTip =
         u"Format the negative in Binary, Octal and HEXadecimal mode, in order to delete the minus";

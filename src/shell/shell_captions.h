@@ -30,10 +30,9 @@ inline constexpr const char16_t* kExpressionListColumns[3] = {u"ID", u"Expressio
 inline constexpr const char16_t* kExpressionListButtonToolTips[4] = {
     u"Insert the selected expression to Input Area", u"Clear the Expression List",
     u"Copy the selected item to clipboard", u"Save the Expression List to file..."};
-inline constexpr const char16_t* kOptionToolTips[5] = {u"Expression List", u"Variable List",
-                                                       u"Custom Function Manager", u"Input Panel", u"Stay on top"};
-inline constexpr const char16_t* kQuickReferenceButtonToolTips[2] = {u"Hide Quick Reference",
-                                                                     u"Show Quick Reference"};
+inline constexpr const char16_t* kOptionToolTips[5] = {u"Expression List", u"Variable List", u"Custom Function Manager",
+                                                       u"Input Panel", u"Stay on top"};
+inline constexpr const char16_t* kQuickReferenceButtonToolTips[2] = {u"Hide Quick Reference", u"Show Quick Reference"};
 inline constexpr const char16_t* kVariableListColumns[2] = {u"Name", u"Value"};
 
 }  // namespace tessarondel

@@ -39,9 +39,14 @@ void VariableWindowModel::cmdBtn(int index) {
         case 0:
             if (!rows_.empty() && selected_) host_.InsertToken(u"(" + rows_[*selected_].Name + u")");
             break;
-        case 1: ClearVarList(); break;
-        case 2: CloseVariableList(); break;
-        default: break;
+        case 1:
+            ClearVarList();
+            break;
+        case 2:
+            CloseVariableList();
+            break;
+        default:
+            break;
     }
 }
 

@@ -124,8 +124,8 @@ const StateRow kStateRows[] = {
      false, true, true},
     {"NewFromList", [](FunctionManager&, FunctionManagerModel& m, ScriptedHost&) { m.cmdNew(); }, ManagerState::New,
      false, false, true, false, false},
-    {"EditFromList", [](FunctionManager&, FunctionManagerModel& m, ScriptedHost&) { m.cmdEdit(); },
-     ManagerState::Edit, true, false, true, false, false},
+    {"EditFromList", [](FunctionManager&, FunctionManagerModel& m, ScriptedHost&) { m.cmdEdit(); }, ManagerState::Edit,
+     true, false, true, false, false},
     {"CancelAnsweredYes",
      [](FunctionManager&, FunctionManagerModel& m, ScriptedHost& h) {
          m.cmdEdit();
@@ -201,16 +201,15 @@ TEST_F(FunctionManager, LoadDefinesEveryDocumentAndListsIt) {
     ASSERT_EQ(manager.FunctionMenu().size(), 4u);
     EXPECT_EQ(U8(manager.FunctionMenu()[0].Caption), "Add New...");
     EXPECT_EQ(U8(manager.FunctionMenu()[1].Caption), "-");
-    EXPECT_EQ(U8(manager.FunctionMenu()[2].Tag),
-              "Function:Hyp(a, b)\r\nDescription:Length of the hypotenuse\r\n");
+    EXPECT_EQ(U8(manager.FunctionMenu()[2].Tag), "Function:Hyp(a, b)\r\nDescription:Length of the hypotenuse\r\n");
     EXPECT_EQ(manager.FunctionCount(), 2);
 }
 
 TEST_F(FunctionManager, AFolderThatCannotBeReadDefinesNothing) {
     store.loaded.failed = true;
     Load({kHyp});
-    EXPECT_EQ(host.notices, (std::vector<std::string>{
-                                "Some errors occurred when Loading the Custom Function! | Error Information"}));
+    EXPECT_EQ(host.notices,
+              (std::vector<std::string>{"Some errors occurred when Loading the Custom Function! | Error Information"}));
     EXPECT_TRUE(manager.Rows().empty());
     EXPECT_EQ(manager.FunctionCount(), 0);
 }

@@ -1,5 +1,6 @@
 // The function and constant menus, the clear commands and Clear All.
 #include "shell/catalogue.h"
+
 #include "shell_fakes.h"
 
 namespace tessarondel::testing {

@@ -22,7 +22,7 @@ TEST_F(VariableWindow, InsertOnAnEmptyListDoesNothing) {
 
 TEST_F(VariableWindow, ClearOnAnEmptyListNeitherAsksNorTouchesTheEngine) {
     EvaluateText(engine, u"q=1");  // a variable the list hasn't been refilled with
-    main.Variables().cmdBtn(1);     // no box: the script would fail on it
+    main.Variables().cmdBtn(1);    // no box: the script would fail on it
     EXPECT_EQ(engine.VariableNames, u"{q}");
 }
 
