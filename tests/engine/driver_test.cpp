@@ -125,6 +125,17 @@ TEST(ErrorMessages, NumbersOutsideTheTableFailTheCaller) {
     EXPECT_FALSE(state.ErrorFlag);
 }
 
+TEST(CommaList, AFunctionWithoutBracketReachesTheBuiltinWithTheLastList) {
+    EngineState state = testing_engine::FreshEngine();
+    // No list has closed yet: the built-in's bound test fails on the list without slots.
+    EXPECT_EQ(Evaluate(state, "sin+1").error, 99);
+    // Now the list of the last evaluation stands, with one element.
+    EXPECT_EQ(Evaluate(state, "sin+1").error, 0);
+    Evaluate(state, "1,2,3");
+    EXPECT_EQ(Evaluate(state, "x=sum").error, 0);
+    EXPECT_EQ(testing_engine::Variables(state), (std::vector<std::pair<std::string, std::string>>{{"x", "6"}}));
+}
+
 std::string Nested(int depth) { return std::string(depth, '(') + "1" + std::string(depth, ')'); }
 
 TEST(DeepNesting, WorksWithinTheBound) { EXPECT_EQ(testing_engine::EvaluateFresh(Nested(900)).result, "1"); }
