@@ -56,7 +56,7 @@ TEST_F(ProxyDialog, OkStoresTheTrimmedBoxesAndApplies) {
 }
 
 TEST_F(ProxyDialog, DefaultMeansNoProxyAndKeepsTheBoxes) {
-    held.State = u"1";
+    held.State = std::u16string(u"1");
     ProxyDialogModel dialog = Dialog();
     dialog.Open();
     EXPECT_TRUE(dialog.UseProxyChecked());

@@ -99,8 +99,8 @@ bool BuildReplacement(EngineState& state, const std::u16string& token, std::u16s
 bool ExpandNextCall(EngineState& state, std::u16string& text, SlotList<std::u16string>& arguments, bool& refused) {
     do {
         ReadToken(state);
+        if (!IsCustomFunctionName(state, state.CurrentToken)) continue;
         const std::u16string token = state.CurrentToken;
-        if (!IsCustomFunctionName(state, token)) continue;
         const CallSite site = FindCallSite(text, token);
         if (site.open == 0 || site.close == 0) {
             if (site.open != 0) state.ErrorNumber = BracketsMismatch;
@@ -132,7 +132,9 @@ bool ExpandNextCall(EngineState& state, std::u16string& text, SlotList<std::u16s
 }  // namespace
 
 bool IsCustomFunctionName(const EngineState& state, std::u16string_view token) {
-    return ContainsText(u"{" + AsciiLower(TrimBlanks(token)) + u"}", state.CustomFunctionNames);
+    // Most sessions define no functions; the walk then only reads tokens.
+    if (state.CustomFunctionNames.empty()) return false;
+    return InBracedList(AsciiLower(TrimBlanks(token)), state.CustomFunctionNames);
 }
 
 std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text) {
