@@ -46,8 +46,8 @@ void EngineState::ReportError(int number) {
     if (number < 0 || number > UnknownError) throw RunFailure("error number out of range");
     if (!ErrorFlag) {
         if (ShowErrorBox && ShowMessageBox) {
-            std::u16string text = u"ErrNum:" + DecimalText(number) + u"\r\nErrInformation:";
-            text += ErrorMessage(number);
+            std::u16string text(u"ErrNum:");
+            text.append(DecimalText(number)).append(u"\r\nErrInformation:").append(ErrorMessage(number));
             ShowMessageBox(text, ErrorBoxTitle);
         }
         ErrorFlag = true;
