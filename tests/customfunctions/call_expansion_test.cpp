@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/name_lists.h"
 #include "engine_fixture.h"
+#include "numbers/text_rules.h"
 
 namespace tessarondel {
 namespace {
@@ -158,6 +160,30 @@ TEST(CustomCallEvaluation, ANameThatReachesAGrowingCallOverflows) {
     ASSERT_TRUE(DropCustomFunction(engine.state, u"zz"));
     EXPECT_EQ(engine.Evaluate(u"j()"), "Error");
     EXPECT_EQ(engine.state.ErrorNumber, 6);
+}
+
+// The name test looks the trimmed, lower-cased token up in the braced name
+// list without building "{token}"; it must agree with that substring search,
+// odd tokens with braces included.
+TEST(IsCustomFunctionName, AgreesWithTheBracedSubstringSearch) {
+    struct Row {
+        const char16_t* token;
+        bool expected;  // against "{hyp}{area}{f_1}"
+    };
+    const Row rows[] = {{u"hyp", true}, {u"HYP", true}, {u" area ", true}, {u"f_1", true},
+                        {u"ar", false}, {u"yp", false}, {u"area}", false}, {u"hyp}{area", true},
+                        {u"}{", false}, {u"", false},   {u"{hyp}", false}, {u"x", false}};
+    EngineState state;
+    for (const std::u16string_view names : {std::u16string_view(u"{hyp}{area}{f_1}"), std::u16string_view()}) {
+        state.CustomFunctionNames = names;
+        for (const Row& row : rows) {
+            SCOPED_TRACE(std::string(names.begin(), names.end()) + " / " +
+                         std::string(row.token, row.token + std::char_traits<char16_t>::length(row.token)));
+            const std::u16string braced = u"{" + AsciiLower(TrimBlanks(row.token)) + u"}";
+            EXPECT_EQ(IsCustomFunctionName(state, row.token), ContainsText(braced, names));
+            EXPECT_EQ(IsCustomFunctionName(state, row.token), row.expected && !names.empty());
+        }
+    }
 }
 
 }  // namespace
