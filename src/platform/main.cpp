@@ -1,1 +1,47 @@
-int main() { return 0; }
+// The entry procedure: the second-instance question, the settings, the
+// windows, and the event loop. Everything else is wired in DesktopApplication.
+#include <QApplication>
+#include <QNetworkProxyFactory>
+#include <exception>
+
+#include "customfunctions/cfd_document.h"
+#include "platform/desktop_application.h"
+#include "platform/qt_desktop.h"
+#include "platform/qt_text.h"
+#include "services/instance_lock.h"
+#include "services/maker_addresses.h"
+
+namespace {
+
+using namespace tessarondel;
+
+DesktopConfiguration Configuration() {
+    return {ToU16(QCoreApplication::applicationDirPath()),
+            ResolveFunctionFolder(),
+            {std::u16string(MakerSupportMailbox), std::u16string(MakerMailbox), std::u16string(MakerWebServer)},
+            {std::u16string(MakerUpdateServer), std::u16string(MakerWebServer)}};
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);  // the main window hides to the tray
+    QtMessageBox box;
+    InstanceLock instance;
+    if (!instance.TryAcquire() &&
+        box.Show(SecondInstanceQuestion, u"Information", MessageButtons::YesNo, MessageIcon::Question) !=
+            MessageAnswer::Yes) {
+        return 0;
+    }
+    try {
+        QNetworkProxyFactory::setUseSystemConfiguration(true);  // the "default connection" of the version check
+        QtSettingsStore store;
+        DesktopApplication desktop(store, Configuration());
+        desktop.Start();
+        return QApplication::exec();
+    } catch (const std::exception&) {
+        box.Show(u"Unknown Error! ErrorNumber:0", u"Information", MessageButtons::Ok, MessageIcon::Information);
+        return 1;
+    }
+}
