@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QTreeView>
@@ -35,6 +36,11 @@ MainWindow::MainWindow(MainWindowModel& model, QWidget* parent) : QWidget(parent
     pBoxState_ = BuildStatePanel();
     pBoxState_->setParent(this);
     BuildMenus();
+    // Keyboard ways to the commands that otherwise need the mouse.
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, [this] { model_.cmdlvOutput(3); });
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] { model_.ClickHelp(); });
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this), &QShortcut::activated, this,
+            [this] { model_.ClickExit(); });
     setTabOrder(txtIn_, comApproximateBit_);
     DrawLayout();
 }

@@ -1,0 +1,176 @@
+#include <QAbstractItemModelTester>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+#include <gtest/gtest.h>
+
+#include "platform/text_table_model.h"
+#include "platform/widget_harness.h"
+
+namespace tessarondel {
+namespace {
+
+using testing::FindByAccessibleName;
+using testing::MainWindowHarness;
+
+QToolButton* ButtonWithText(QWidget& root, const QString& text) {
+    for (auto* button : root.findChildren<QToolButton*>()) {
+        if (button->text() == text) return button;
+    }
+    return nullptr;
+}
+
+void TypeAndEnter(QLineEdit* input, const QString& text) {
+    QTest::keyClicks(input, text);
+    QTest::keyClick(input, Qt::Key_Return);
+}
+
+TEST(MainWindow, EnterEvaluatesIntoDisplayAndAppendsARow) {
+    MainWindowHarness h;
+    QAbstractItemModelTester tester(h.window.ExpressionRows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    TypeAndEnter(h.window.txtIn(), QStringLiteral("2*(3+4)^2"));
+    EXPECT_EQ(h.window.txtLEDResult()->text(), QStringLiteral("98"));
+    EXPECT_TRUE(h.window.txtIn()->text().isEmpty());
+    TypeAndEnter(h.window.txtIn(), QStringLiteral(" 1/0 "));
+    QAbstractItemModel* rows = h.window.ExpressionRows();
+    ASSERT_EQ(rows->rowCount(), 2);
+    EXPECT_EQ(rows->index(0, 0).data().toString(), QStringLiteral("1"));
+    EXPECT_EQ(rows->index(0, 1).data().toString(), QStringLiteral("2*(3+4)^2"));
+    EXPECT_EQ(rows->index(0, 2).data().toString(), QStringLiteral("98"));
+    EXPECT_EQ(rows->index(1, 1).data().toString(), QStringLiteral("1/0"));
+    EXPECT_TRUE(rows->index(1, 2).data().toString().startsWith(QStringLiteral("Error:")));
+    EXPECT_EQ(rows->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Result"));
+}
+
+TEST(MainWindow, ArrowsBrowseTheHistoryAndKeepTheTypedLine) {
+    MainWindowHarness h;
+    QLineEdit* input = h.window.txtIn();
+    TypeAndEnter(input, QStringLiteral("1+1"));
+    TypeAndEnter(input, QStringLiteral("2+2"));
+    QTest::keyClicks(input, QStringLiteral("3+"));
+    QTest::keyClick(input, Qt::Key_Up);
+    EXPECT_EQ(input->text(), QStringLiteral("2+2"));
+    QTest::keyClick(input, Qt::Key_Up);
+    QTest::keyClick(input, Qt::Key_Up);
+    EXPECT_EQ(input->text(), QStringLiteral("1+1"));
+    QTest::keyClick(input, Qt::Key_Down);
+    QTest::keyClick(input, Qt::Key_Down);
+    EXPECT_EQ(input->text(), QStringLiteral("3+"));
+}
+
+TEST(MainWindow, KeypadReplacesTheSelectionAndKeepsTheInputFocused) {
+    MainWindowHarness h;
+    h.window.show();
+    QLineEdit* input = h.window.txtIn();
+    QTest::keyClicks(input, QStringLiteral("12"));
+    input->selectAll();
+    QToolButton* sin = ButtonWithText(h.window, QStringLiteral("sin"));
+    ASSERT_NE(sin, nullptr);
+    QTest::mouseClick(sin, Qt::LeftButton);
+    EXPECT_EQ(input->text(), QStringLiteral("sin()"));
+    EXPECT_EQ(input->cursorPosition(), 4);
+    EXPECT_TRUE(h.window.txtQRef()->toPlainText().endsWith(QStringLiteral("Tessarondel Built-In Functions.")));
+    QTest::mouseClick(ButtonWithText(h.window, QStringLiteral("E")), Qt::LeftButton);
+    EXPECT_EQ(input->text(), QStringLiteral("sin( E )"));
+    EXPECT_EQ(h.window.txtQRef()->toPlainText(), QStringLiteral("Insert Object:E\nSystem Constants."));
+}
+
+TEST(MainWindow, KeypadCaptionsUseTheClassicColours) {
+    MainWindowHarness h;
+    const struct {
+        const char* caption;
+        QRgb colour;
+    } rows[] = {{"7", 0x800000}, {"+", 0x000080}, {"mod", 0x000080}, {"(", 0x800080}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.caption);
+        QToolButton* button = ButtonWithText(h.window, QString::fromLatin1(row.caption));
+        ASSERT_NE(button, nullptr);
+        EXPECT_EQ(button->palette().color(QPalette::ButtonText).rgb() & 0xFFFFFF, row.colour);
+    }
+}
+
+TEST(MainWindow, ControlsCarryTheirAccessibleNames) {
+    MainWindowHarness h;
+    for (const char* name : {"Input Area", "Result", "Quick Reference", "Expression List", "Auto Round",
+                             "Insert the selected expression to Input Area", "Save the Expression List to file...",
+                             "Expression List", "Stay on top", "Close Tessarondel", "Show Quick Reference",
+                             "Copy the result to Clipboard", "Evaluate the expression", "Larkmoor Tessarondel"}) {
+        SCOPED_TRACE(name);
+        EXPECT_NE(FindByAccessibleName(h.window, QString::fromLatin1(name)), nullptr);
+    }
+    EXPECT_EQ(FindByAccessibleName(h.window, QStringLiteral("Auto Round")), h.window.findChild<QComboBox*>());
+}
+
+TEST(MainWindow, HexOptionRewritesTheDisplayAndDoubleClickInsertsIt) {
+    MainWindowHarness h;
+    TypeAndEnter(h.window.txtIn(), QStringLiteral("255"));
+    QRadioButton* hex = nullptr;
+    for (auto* radio : h.window.findChildren<QRadioButton*>()) {
+        if (radio->text() == QStringLiteral("HEXadecimal")) hex = radio;
+    }
+    ASSERT_NE(hex, nullptr);
+    QTest::mouseClick(hex, Qt::LeftButton);
+    EXPECT_EQ(h.window.txtLEDResult()->text(), QStringLiteral("$HFF"));
+    QTest::mouseDClick(h.window.txtLEDResult(), Qt::LeftButton);
+    EXPECT_EQ(h.window.txtIn()->text(), QStringLiteral("($HFF)"));
+    EXPECT_EQ(h.clipboard.text, u"$HFF");
+}
+
+TEST(MainWindow, ExpressionListSwitchShrinksTheWindowAndBringsTheRowsBack) {
+    MainWindowHarness h;
+    TypeAndEnter(h.window.txtIn(), QStringLiteral("1+2"));
+    const int fullHeight = h.window.height();
+    QToolButton* listSwitch = FindByAccessibleName<QToolButton>(h.window, QStringLiteral("Expression List"));
+    ASSERT_NE(listSwitch, nullptr);
+    QTest::mouseClick(listSwitch, Qt::LeftButton);
+    EXPECT_FALSE(h.model.Option(OptionExpressionList));
+    EXPECT_LT(h.window.height(), fullHeight);
+    QTest::mouseClick(listSwitch, Qt::LeftButton);
+    EXPECT_EQ(h.window.height(), fullHeight);
+    EXPECT_EQ(h.window.ExpressionRows()->rowCount(), 1);
+}
+
+TEST(MainWindow, ClearingTheListAsksAndRemovesTheRows) {
+    MainWindowHarness h;
+    QAbstractItemModelTester tester(h.window.ExpressionRows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    TypeAndEnter(h.window.txtIn(), QStringLiteral("1+2"));
+    testing::ScriptedMessageBox boxes({{u"Really clear the expression list?", u"Information",
+                                        MessageButtons::YesNoCancel, MessageIcon::Question, MessageAnswer::Yes}});
+    h.box.script = &boxes;
+    QTest::mouseClick(FindByAccessibleName<QToolButton>(h.window, QStringLiteral("Clear the Expression List")),
+                      Qt::LeftButton);
+    EXPECT_EQ(h.window.ExpressionRows()->rowCount(), 0);
+    EXPECT_EQ(h.window.txtLEDResult()->text(), QStringLiteral("0"));
+}
+
+TEST(MainWindow, FrameCloseHidesToTheTrayOrMinimisesWithoutOne) {
+    MainWindowHarness h;
+    h.window.show();
+    h.window.close();
+    EXPECT_EQ(h.model.WindowShownState(), 0);
+    EXPECT_FALSE(h.window.isVisible());
+    h.model.ToggleWindowShown();
+    EXPECT_TRUE(h.window.isVisible());
+    h.window.SetTrayAvailable(false);
+    h.window.close();
+    EXPECT_TRUE(h.window.isVisible());
+    EXPECT_EQ(h.model.WindowShownState(), 1);
+}
+
+TEST(MainWindow, QuickReferenceButtonsSwapAndResizeThePanel) {
+    MainWindowHarness h;
+    const int fullHeight = h.window.height();
+    QToolButton* hide = FindByAccessibleName<QToolButton>(h.window, QStringLiteral("Hide Quick Reference"));
+    ASSERT_NE(hide, nullptr);
+    QTest::mouseClick(hide, Qt::LeftButton);
+    EXPECT_FALSE(h.model.QuickRefShown());
+    EXPECT_TRUE(h.window.txtQRef()->isHidden());
+    EXPECT_LT(h.window.height(), fullHeight);
+}
+
+}  // namespace
+}  // namespace tessarondel

@@ -1,0 +1,218 @@
+#include <QAbstractItemModelTester>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+#include <gtest/gtest.h>
+
+#include "platform/function_manager_window.h"
+#include "platform/proxy_dialog.h"
+#include "platform/text_table_model.h"
+#include "platform/twips.h"
+#include "platform/variable_window.h"
+#include "platform/widget_harness.h"
+#include "shell/function_manager_host.h"
+
+namespace tessarondel {
+namespace {
+
+using testing::MainWindowHarness;
+using testing::ScriptedMessageBox;
+
+QPushButton* PushButton(QWidget& root, const QString& caption) {
+    for (auto* button : root.findChildren<QPushButton*>()) {
+        if (button->text() == caption) return button;
+    }
+    return nullptr;
+}
+
+void Evaluate(MainWindowHarness& h, const QString& text) {
+    QTest::keyClicks(h.window.txtIn(), text);
+    QTest::keyClick(h.window.txtIn(), Qt::Key_Return);
+}
+
+struct VariableHarness : MainWindowHarness {
+    VariableHarness() {
+        model.Variables().SetListener([this](VariableWindowChange change) { variables.Apply(change); });
+    }
+    VariableWindow variables{model.Variables()};
+};
+
+TEST(VariableWindow, FillsFromEvaluationsAndInsertsTheSelectedName) {
+    VariableHarness h;
+    QAbstractItemModelTester tester(h.variables.Rows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    Evaluate(h, QStringLiteral("x=.5"));
+    Evaluate(h, QStringLiteral("y=x*4"));
+    ASSERT_EQ(h.variables.Rows()->rowCount(), 2);
+    EXPECT_EQ(h.variables.Rows()->index(0, 1).data().toString(), QStringLiteral(".5"));
+    EXPECT_EQ(h.variables.Rows()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Value"));
+    QTreeView* list = h.variables.lvVar();
+    list->setCurrentIndex(h.variables.Rows()->index(1, 0));
+    QTest::mouseClick(PushButton(h.variables, QStringLiteral("Insert")), Qt::LeftButton);
+    EXPECT_EQ(h.window.txtIn()->text(), QStringLiteral("(y)"));
+    EXPECT_EQ(list->accessibleName(), QStringLiteral("Variable List"));
+}
+
+TEST(VariableWindow, ClearAsksThenEmptiesListAndEngine) {
+    VariableHarness h;
+    Evaluate(h, QStringLiteral("x=1"));
+    ScriptedMessageBox boxes({{u"Really clear the variable list?", u"Information", MessageButtons::YesNoCancel,
+                               MessageIcon::Question, MessageAnswer::Yes}});
+    h.box.script = &boxes;
+    QTest::mouseClick(PushButton(h.variables, QStringLiteral("Clear")), Qt::LeftButton);
+    EXPECT_EQ(h.variables.Rows()->rowCount(), 0);
+    EXPECT_TRUE(h.engine.VariableNames.empty());
+}
+
+TEST(VariableWindow, CloseHidesAndUnchecksTheMainWindowsSwitch) {
+    VariableHarness h;
+    h.model.SetOption(OptionVariableList, true);
+    h.variables.show();
+    h.variables.close();
+    EXPECT_FALSE(h.model.Option(OptionVariableList));
+    EXPECT_EQ(h.variables.minimumHeight(), TwipScale::For(&h.variables).ToPixels(4410 - FrameHeightTwips));
+}
+
+// Documents in memory, so the manager's tests touch no folder.
+class MemoryDocuments final : public FunctionDocumentStore {
+public:
+    FolderReadResult LoadAll() override { return {documents, false}; }
+    bool Write(const CustomFunctionDocument& document) override {
+        written.push_back(document);
+        return true;
+    }
+    bool Delete(std::u16string_view) override { return true; }
+    std::vector<CustomFunctionDocument> documents;
+    std::vector<CustomFunctionDocument> written;
+};
+
+struct ManagerHarness : MainWindowHarness {
+    ManagerHarness() {
+        documents.documents.push_back({u"Hyp", u"a,b", u"sqrt(a^2+b^2)", u"Hypotenuse"});
+        manager.SetListener([this](FunctionManagerChange change) { window.Apply(change); });
+        manager.Load();
+    }
+    MemoryDocuments documents;
+    ShellFunctionManagerHost host{model, box};
+    FunctionManagerModel manager{engine, documents, host};
+    FunctionManagerWindow window{manager};
+};
+
+TEST(FunctionManagerWindow, ListsLoadedFunctionsAndInsertsThem) {
+    ManagerHarness h;
+    QAbstractItemModelTester tester(h.window.Rows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    ASSERT_EQ(h.window.Rows()->rowCount(), 1);
+    EXPECT_EQ(h.window.Rows()->index(0, 0).data().toString(), QStringLiteral("Hyp"));
+    EXPECT_EQ(h.window.Rows()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Function Name"));
+    h.window.lvCustomFunction()->setCurrentIndex(h.window.Rows()->index(0, 0));
+    QTest::mouseClick(h.window.Button(ManagerButton::Insert), Qt::LeftButton);
+    EXPECT_EQ(h.MainWindowHarness::window.txtIn()->text(), QStringLiteral("Hyp()"));
+    EXPECT_EQ(h.MainWindowHarness::window.txtQRef()->toPlainText(),
+              QStringLiteral("Function:Hyp(a,b)\nDescription:Hypotenuse"));
+}
+
+TEST(FunctionManagerWindow, NewFunctionIsTypedSavedAndUsable) {
+    ManagerHarness h;
+    h.window.show();
+    QTest::mouseClick(h.window.Button(ManagerButton::New), Qt::LeftButton);
+    EXPECT_FALSE(h.window.Button(ManagerButton::New)->isEnabled());
+    EXPECT_TRUE(h.window.Field(FunctionField::Expression)->isVisible()) << "New opens the details";
+    QTest::keyClicks(h.window.Field(FunctionField::Name), QStringLiteral("twice"));
+    QTest::keyClicks(h.window.Field(FunctionField::Parameters), QStringLiteral("n"));
+    QTest::keyClicks(h.window.Field(FunctionField::Expression), QStringLiteral("n*2"));
+    QTest::mouseClick(h.window.Button(ManagerButton::Ok), Qt::LeftButton);
+    ASSERT_EQ(h.documents.written.size(), 1u);
+    EXPECT_EQ(h.documents.written[0].Name, u"twice");
+    EXPECT_EQ(h.window.Rows()->rowCount(), 2);
+    EXPECT_TRUE(static_cast<QLineEdit*>(h.window.Field(FunctionField::Name))->isReadOnly());
+    Evaluate(h, QStringLiteral("twice(21)"));
+    EXPECT_EQ(h.MainWindowHarness::window.txtLEDResult()->text(), QStringLiteral("42"));
+}
+
+TEST(FunctionManagerWindow, EditBoxesAreNamedByTheirLabels) {
+    ManagerHarness h;
+    const struct {
+        FunctionField field;
+        const char* name;
+    } rows[] = {{FunctionField::Name, "Function Name:"},
+                {FunctionField::Parameters, "Parameter List (Splited by comma):"},
+                {FunctionField::Description, "Description:"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(h.window.Field(row.field));
+        ASSERT_NE(accessible, nullptr);
+        EXPECT_EQ(accessible->text(QAccessible::Name), QString::fromLatin1(row.name));
+    }
+    EXPECT_EQ(h.window.lvCustomFunction()->accessibleName(), QStringLiteral("Custom Functions"));
+}
+
+struct ProxyHarness {
+    testing::WidgetApplicationGuard application;
+    ProxySettingsTexts held{u"1", u"proxy.local", u"8080", u"me", u"secret"};
+    std::vector<ProxySettingsTexts> applied;
+    bool open = false;
+    ProxyDialogModel model{held, [this](const ProxySettingsTexts& texts) { applied.push_back(texts); },
+                           [this](bool isOpen) { open = isOpen; }};
+    ProxyDialog dialog{model};
+
+    // Runs the modal dialog; `act` runs inside it once it is up.
+    void Run(std::function<void()> act) {
+        QTimer::singleShot(0, &dialog, [this, act] {
+            EXPECT_TRUE(open);
+            act();
+            if (dialog.isVisible()) dialog.reject();
+        });
+        dialog.exec();
+    }
+};
+
+TEST(ProxyDialog, OkStoresTheTrimmedBoxesAndMasksThePassword) {
+    ProxyHarness h;
+    h.Run([&] {
+        EXPECT_TRUE(h.dialog.chkProxy()->isChecked());
+        EXPECT_TRUE(h.dialog.frameproxy()->isVisible());
+        EXPECT_EQ(h.dialog.Box(ProxyField::Password)->displayText(), QStringLiteral("******"));
+        h.dialog.Box(ProxyField::Port)->clear();
+        QTest::keyClicks(h.dialog.Box(ProxyField::Port), QStringLiteral(" 3128 "));
+        QTest::mouseClick(h.dialog.cmdOK(), Qt::LeftButton);
+    });
+    ASSERT_EQ(h.applied.size(), 1u);
+    EXPECT_EQ(h.applied[0].Port, u"3128");
+    EXPECT_EQ(h.held.Password, u"secret");
+    EXPECT_FALSE(h.open);
+}
+
+TEST(ProxyDialog, CancelAfterTogglingRestoresTheState) {
+    ProxyHarness h;
+    h.Run([&] {
+        QTest::keyClick(h.dialog.chkProxy(), Qt::Key_Space);
+        EXPECT_EQ(h.held.State, u"0");
+        EXPECT_FALSE(h.dialog.frameproxy()->isVisible());
+        QTest::mouseClick(h.dialog.cmdCancel(), Qt::LeftButton);
+    });
+    EXPECT_EQ(h.held.State, u"1");
+    EXPECT_TRUE(h.applied.empty());
+}
+
+TEST(ProxyDialog, DefaultKeepsTheTextsWithoutProxy) {
+    ProxyHarness h;
+    h.Run([&] { QTest::mouseClick(h.dialog.cmdDefault(), Qt::LeftButton); });
+    ASSERT_EQ(h.applied.size(), 1u);
+    EXPECT_EQ(h.applied[0].State, u"0");
+    EXPECT_EQ(h.applied[0].Proxy, u"proxy.local");
+}
+
+TEST(ProxyDialog, EscapeClosesWithoutStoring) {
+    ProxyHarness h;
+    h.Run([&] { QTest::keyClick(&h.dialog, Qt::Key_Escape); });
+    EXPECT_FALSE(h.open);
+    EXPECT_TRUE(h.applied.empty());
+}
+
+}  // namespace
+}  // namespace tessarondel

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <string>
+
+#include "platform/main_window.h"
+#include "services/fake_dialogs.h"
+#include "shell/main_window_model.h"
+
+namespace tessarondel::testing {
+
+// The widget application of the tests: offscreen, with settings and data
+// paths of its own, so nothing of the user's is read or written.
+inline QApplication& WidgetApplication() {
+    static QApplication* application = [] {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        QStandardPaths::setTestModeEnabled(true);
+        static int argc = 1;
+        static char name[] = "platform_tests";
+        static char* argv[] = {name, nullptr};
+        return new QApplication(argc, argv);
+    }();
+    return *application;
+}
+
+class FakeClipboard final : public Clipboard {
+public:
+    std::u16string GetText() override { return text; }
+    void SetText(std::u16string_view value) override { text = value; }
+    std::u16string text;
+};
+
+class FakeSaveDialog final : public SaveFileDialog {
+public:
+    std::u16string AskSaveFileName(std::u16string_view) override { return answer; }
+    std::u16string answer;
+};
+
+// A message box that fails the test on any box, unless a test hands it a
+// script of the boxes it expects.
+class GuardedMessageBox final : public MessageBox {
+public:
+    MessageAnswer Show(std::u16string_view text, std::u16string_view title, MessageButtons buttons,
+                       MessageIcon icon) override {
+        if (script != nullptr) return script->Show(text, title, buttons, icon);
+        ADD_FAILURE() << "unexpected box: " << QString::fromStdU16String(std::u16string(text)).toStdString();
+        return MessageAnswer::Cancel;
+    }
+    ScriptedMessageBox* script = nullptr;
+};
+
+// Declared first in a harness, so the application exists before any widget.
+struct WidgetApplicationGuard {
+    WidgetApplicationGuard() { WidgetApplication(); }
+};
+
+// The main window over its model on fakes, loaded as on a first run.
+struct MainWindowHarness {
+    MainWindowHarness() {
+        model.SetListener([this](MainWindowChange change) { window.Apply(change); });
+        model.Load(FormInfoTexts{}, {19200, 14400});
+    }
+
+    WidgetApplicationGuard application;
+    EngineState engine;
+    GuardedMessageBox box;
+    FakeClipboard clipboard;
+    FakeSaveDialog saveDialog;
+    RecordingOpener opener;
+    QTemporaryDir programDirectory;
+    MainWindowModel model{engine,
+                          {box, clipboard, saveDialog, opener},
+                          {programDirectory.path().toStdU16String(), {u"help@x.invalid", u"ideas@x.invalid", u"https://x.invalid"}}};
+    MainWindow window{model};
+};
+
+// The first child whose accessible name is `name`.
+template <typename Widget = QWidget>
+Widget* FindByAccessibleName(QWidget& root, const QString& name) {
+    for (Widget* child : root.findChildren<Widget*>()) {
+        if (child->accessibleName() == name) return child;
+    }
+    return nullptr;
+}
+
+}  // namespace tessarondel::testing
