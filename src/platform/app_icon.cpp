@@ -1,6 +1,5 @@
 #include "platform/app_icon.h"
 
-#include <QFont>
 #include <QPainter>
 #include <QPixmap>
 
@@ -8,20 +7,21 @@ namespace tessarondel {
 
 namespace {
 
+// Drawn from shapes only, so no font has to be loaded for it at start.
 QPixmap DrawIcon(int size) {
     QPixmap pixmap(size, size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(QColor(0x1E, 0x3A, 0x5F));
     painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x1E, 0x3A, 0x5F));
     painter.drawRoundedRect(QRectF(0, 0, size, size), size * 0.18, size * 0.18);
-    painter.setPen(QColor(0xFF, 0xFF, 0xC0));
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setBold(true);
-    font.setPixelSize(size * 11 / 20);
-    painter.setFont(font);
-    painter.drawText(QRect(0, 0, size, size), Qt::AlignCenter, QStringLiteral("T="));
+    painter.setBrush(QColor(0xFF, 0xFF, 0xC0));
+    const double u = size / 16.0;
+    painter.drawRect(QRectF(2 * u, 3 * u, 7 * u, 2 * u));    // the bar of the T
+    painter.drawRect(QRectF(4.5 * u, 3 * u, 2 * u, 10 * u));  // its stem
+    painter.drawRect(QRectF(10 * u, 6 * u, 4 * u, 1.5 * u));  // the equals sign
+    painter.drawRect(QRectF(10 * u, 9.5 * u, 4 * u, 1.5 * u));
     return pixmap;
 }
 

@@ -4,8 +4,8 @@
 
 namespace tessarondel {
 
-// The program's icon, drawn at start so the executable needs no image files:
-// a dark rounded square with a light "T=" on it.
+// The program's icon, a light "T=" on a dark rounded square, drawn at start
+// so the executable needs no image files.
 QIcon AppIcon();
 
 }  // namespace tessarondel

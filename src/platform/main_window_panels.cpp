@@ -81,7 +81,7 @@ QWidget* MainWindow::BuildExpressionPanel() {
             });
     connect(lvOutput_, &QTreeView::doubleClicked, this, [this] { model_.DoubleClickExpressionList(); });
     auto* buttons = Tight(new QHBoxLayout);
-    static const QString glyphs[4] = {QStringLiteral("(…)"), QStringLiteral("✕"), QStringLiteral("⧉"),
+    static const QString glyphs[4] = {QStringLiteral("(…)"), QStringLiteral("✕"), QStringLiteral("❐"),
                                       QStringLiteral("⤓")};
     for (int i = 0; i < 4; ++i) {
         QToolButton* button = MakePictureButton(glyphs[i], kExpressionListButtonToolTips[i], panel);
@@ -131,9 +131,9 @@ QWidget* MainWindow::BuildLedBox() {
     txtLEDResult_->setAlignment(Qt::AlignRight);
     txtLEDResult_->setAccessibleName(QStringLiteral("Result"));
     txtLEDResult_->installEventFilter(this);
-    QToolButton* copy = MakePictureButton(QStringLiteral("⎘"), kCopyResultImage.ToolTip, box);
+    QToolButton* copy = MakePictureButton(QStringLiteral("❐"), kCopyResultImage.ToolTip, box);
     connect(copy, &QToolButton::clicked, this, [this] { model_.CopyResultToClipboard(); });
-    QToolButton* paste = MakePictureButton(QStringLiteral("⇲"), kPasteImage.ToolTip, box);
+    QToolButton* paste = MakePictureButton(QStringLiteral("⇩"), kPasteImage.ToolTip, box);
     connect(paste, &QToolButton::clicked, this, [this] { model_.PasteFromClipboard(); });
     top->addWidget(lastAns);
     top->addWidget(txtLEDResult_, 1);
@@ -201,7 +201,7 @@ QWidget* MainWindow::BuildControlPanel() {
     connect(help, &QToolButton::clicked, this, [this] { model_.ClickHelp(); });
     mnuInformation_ = new QMenu(this);
     QToolButton* about = MenuButton(QStringLiteral("ℹ"), kAboutButton.ToolTip, mnuInformation_, true);
-    QToolButton* exit = MakePictureButton(QStringLiteral("⏻"), kExitButton.ToolTip, panel);
+    QToolButton* exit = MakePictureButton(QStringLiteral("✖"), kExitButton.ToolTip, panel);
     connect(exit, &QToolButton::clicked, this, [this] { model_.ClickExit(); });
     for (QWidget* button : {static_cast<QWidget*>(option), static_cast<QWidget*>(help), static_cast<QWidget*>(about),
                             static_cast<QWidget*>(exit)}) {
