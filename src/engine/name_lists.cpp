@@ -1,7 +1,9 @@
 #include "engine/name_lists.h"
 
 #include <algorithm>
-#include <vector>
+#include <iterator>
+
+#include "engine/name_table.h"
 
 namespace tessarondel {
 
@@ -17,51 +19,33 @@ bool HasListPunctuation(std::u16string_view name) {
     return false;
 }
 
-// The entries of a constant braced list. For a name without braces and
-// commas, "{name}" occurs in the list exactly when the name is an entry: every
-// "{" opens an entry and the first "}" behind it closes that entry. Other
-// names take the substring search.
-class BracedNameSet {
-public:
-    explicit BracedNameSet(std::u16string_view list) : list_(list) {
-        for (std::size_t open = list.find(u'{'); open != std::u16string_view::npos; open = list.find(u'{', open + 1)) {
-            const std::size_t close = list.find(u'}', open);
-            const std::u16string_view entry = list.substr(open + 1, close - open - 1);
-            if (byLength_.size() <= entry.size()) byLength_.resize(entry.size() + 1);
-            byLength_[entry.size()].push_back(entry);
+constexpr std::u16string_view BracedLists[] = {BuiltinFunctionList, AliasList, WordOperatorList, ConstantList};
+constexpr unsigned BracedListBits[] = {BuiltinFunctionBit, AliasBit, WordOperatorBit, ConstantBit};
+
+// Every entry of the four lists with the bit of its list. For a name without
+// braces and commas, "{name}" occurs in a list exactly when the name is an
+// entry: every "{" opens an entry and the first "}" behind it closes that
+// entry. Other names take the substring search.
+constexpr auto ListEntries = [] {
+    NameTable<unsigned char, 80> table;
+    for (std::size_t list = 0; list < std::size(BracedLists); ++list) {
+        const std::u16string_view text = BracedLists[list];
+        for (std::size_t open = text.find(u'{'); open != std::u16string_view::npos; open = text.find(u'{', open + 1)) {
+            const std::size_t close = text.find(u'}', open);
+            table.Add(text.substr(open + 1, close - open - 1), static_cast<unsigned char>(BracedListBits[list]));
         }
     }
+    return table;
+}();
 
-    bool Contains(std::u16string_view name) const {
-        if (HasListPunctuation(name)) return InBracedList(name, list_);
-        if (name.size() >= byLength_.size()) return false;  // longer than every entry
-        for (const std::u16string_view entry : byLength_[name.size()]) {
-            if (entry[0] == name[0] && entry == name) return true;
-        }
-        return false;
+unsigned ListsHoldingBySubstring(std::u16string_view name) {
+    unsigned lists = 0;
+    for (std::size_t list = 0; list < std::size(BracedLists); ++list) {
+        if (InBracedList(name, BracedLists[list])) lists |= BracedListBits[list];
     }
+    return lists;
+}
 
-private:
-    std::u16string_view list_;
-    std::vector<std::vector<std::u16string_view>> byLength_;  // entries by their length
-};
-
-const BracedNameSet& BuiltinFunctions() {
-    static const BracedNameSet set(BuiltinFunctionList);
-    return set;
-}
-const BracedNameSet& Aliases() {
-    static const BracedNameSet set(AliasList);
-    return set;
-}
-const BracedNameSet& WordOperators() {
-    static const BracedNameSet set(WordOperatorList);
-    return set;
-}
-const BracedNameSet& Constants() {
-    static const BracedNameSet set(ConstantList);
-    return set;
-}
 }  // namespace
 
 // The reader's operators: one or two characters, none of them a brace, so the
@@ -98,7 +82,16 @@ bool IsOperatorText(std::u16string_view text) {
     return false;
 }
 
-bool IsConstantName(std::u16string_view name) { return Constants().Contains(name); }
+bool IsConstantName(std::u16string_view name) { return (ListsHolding(name) & ConstantBit) != 0; }
+
+unsigned ListsHolding(std::u16string_view name) {
+    if (const unsigned char* lists = ListEntries.Find(name)) return *lists;
+    return HasListPunctuation(name) ? ListsHoldingBySubstring(name) : 0;
+}
+
+bool InCustomFunctionNames(const EngineState& state, std::u16string_view name) {
+    return !state.CustomFunctionNames.empty() && InBracedList(name, state.CustomFunctionNames);
+}
 
 bool InBracedList(std::u16string_view name, std::u16string_view list) {
     if (name.empty()) return ContainsText(u"{}", list);
@@ -109,46 +102,12 @@ bool InBracedList(std::u16string_view name, std::u16string_view list) {
     return false;
 }
 
-bool IsLetterChar(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u'_'; }
-
-bool IsDigitChar(char16_t c) { return (c >= u'0' && c <= u'9') || c == u'.'; }
-
-bool IsDelimiterChar(char16_t c) {
-    switch (c) {
-        case u'=':
-        case u',':
-        case u'+':
-        case u'-':
-        case u'*':
-        case u'/':
-        case u'\\':
-        case u'%':
-        case u'^':
-        case u'>':
-        case u'<':
-        case u'(':
-        case u')':
-        case u'&':
-        case u'|':
-        case u'!':
-        case u'~':
-        case u'\t':
-        case u'\0':
-        case u'\n':
-        case u'\r':
-            return true;
-        default:
-            return false;
-    }
-}
-
 bool IsFunctionName(const EngineState& state, std::u16string_view name) {
-    return BuiltinFunctions().Contains(name) || Aliases().Contains(name) ||
-           (!state.CustomFunctionNames.empty() && InBracedList(name, state.CustomFunctionNames));
+    return IsBuiltinOrAlias(ListsHolding(name)) || InCustomFunctionNames(state, name);
 }
 
 bool IsKnownName(const EngineState& state, std::u16string_view name) {
-    return IsFunctionName(state, name) || WordOperators().Contains(name) || Constants().Contains(name);
+    return ListsHolding(name) != 0 || InCustomFunctionNames(state, name);
 }
 
 int CountChar(EngineState& state, std::u16string_view text, char16_t c) {

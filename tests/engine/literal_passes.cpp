@@ -25,7 +25,7 @@ char16_t Mid(const std::u16string& s, std::size_t position) {
 }
 
 bool Delimiter(const std::u16string& s, std::size_t position) {
-    return position > s.size() || IsDelimiterChar(s[position - 1]);
+    return position > s.size() || IsListedDelimiter(s[position - 1]);
 }
 
 const std::vector<std::pair<std::u16string, std::u16string>> kReplacements = {
@@ -52,6 +52,25 @@ const std::vector<std::pair<std::u16string, std::u16string>> kReplacements = {
 };
 
 }  // namespace
+
+bool InList(std::u16string_view name, std::u16string_view list) {
+    std::u16string braced = u"{";
+    braced += name;
+    braced += u"}";
+    return list.find(braced) != std::u16string_view::npos;
+}
+
+bool IsListedDelimiter(char16_t c) {
+    return InList(std::u16string_view(&c, 1), DelimiterList) || c == 9 || c == 0 || c == 10 || c == 13;
+}
+
+bool IsFunctionName(const EngineState& state, std::u16string_view name) {
+    return InList(name, state.CustomFunctionNames) || InList(name, BuiltinFunctionList) || InList(name, AliasList);
+}
+
+bool IsKnownName(const EngineState& state, std::u16string_view name) {
+    return literal::IsFunctionName(state, name) || InList(name, WordOperatorList) || InList(name, ConstantList);
+}
 
 std::u16string FoldSource(std::u16string text) {
     for (char16_t c = 0xFF21; c <= 0xFF3A; ++c)
@@ -148,12 +167,12 @@ bool RunTokenPass(EngineState& state, std::u16string& src) {
             while (!Delimiter(src, end)) ++end;
             const std::u16string t(TrimBlanks(src.substr(start - 1, end - start)));
             const bool assigned = Mid(src, end) == u'=' && end < src.size() && Mid(src, end + 1) != u'=';
-            if (!t.empty() && IsKnownName(state, t) && assigned) {
-                state.ReportError(InBracedList(t, ConstantList) ? 7 : 12);
+            if (!t.empty() && literal::IsKnownName(state, t) && assigned) {
+                state.ReportError(InList(t, ConstantList) ? 7 : 12);
                 return false;
             }
             const char16_t next = end <= src.size() ? Mid(src, end) : src.back();
-            if (!t.empty() && !IsFunctionName(state, t) &&
+            if (!t.empty() && !literal::IsFunctionName(state, t) &&
                 ((start == 1 && next == u'(') || (start > 1 && (Mid(src, start - 1) == u')' || next == u'(')))) {
                 state.ReportError(0);
                 return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "engine/engine_state.h"
 
@@ -11,6 +12,13 @@ namespace tessarondel::literal {
 // engine does the same in linear time; the tests compare the two on generated
 // texts.
 std::u16string FoldSource(std::u16string text);
+
+// The name lists read as texts: "{name}" occurs in the list.
+bool InList(std::u16string_view name, std::u16string_view list);
+bool IsListedDelimiter(char16_t c);
+bool IsFunctionName(const EngineState& state, std::u16string_view name);
+bool IsKnownName(const EngineState& state, std::u16string_view name);
+
 std::u16string ScanExponents(EngineState& state, std::u16string src);
 std::u16string ReplaceWordOperators(std::u16string src);
 // Returns false after an error that stops the build.
