@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/comma_list.h"
 #include "numbers/error_sink.h"
 #include "numbers/slot_list.h"
 
@@ -30,6 +31,13 @@ enum TokenKind : int {
 struct VariableSlot {
     std::u16string name;
     double value = 0.0;
+};
+
+// A variable as the listing shows it: name, value and the value's NumberText.
+struct ListedVariable {
+    std::u16string name;
+    double value = 0.0;
+    std::u16string valueText;
 };
 
 // A variable as the shell receives it: name and value text.
@@ -115,9 +123,9 @@ struct EngineState final : ErrorSink {
     std::vector<VariableSlot> VariableTable = std::vector<VariableSlot>(1);  // slot 0 is never used
     std::u16string VariableNames;                                            // "{x}{y}"
     std::u16string VariableListing;
-    // The NumberText of each slot's value as the last listing wrote it, so a
-    // listing formats only the values that changed since.
-    std::vector<std::pair<double, std::u16string>> ListedValueTexts;
+    // What the last listing shows for each slot, so that a listing is written
+    // again only when a variable changed, and formats only the changed values.
+    std::vector<ListedVariable> ListedVariables;
 
     SlotList<CustomFunctionEntry> CustomFunctionTable;
     std::u16string CustomFunctionNames;  // "{hyp}{area}"
@@ -125,8 +133,7 @@ struct EngineState final : ErrorSink {
     TokenStreamText TokenStream;
     std::u16string CurrentToken;
     int TokenKind = TokenNone;
-    SlotList<std::u16string> CommaList;
-    bool ExpansionScan = false;
+    CommaListTexts CommaList;
 
     // Records an error: the first one of an evaluation sets ErrorFlag (and shows
     // the box when ShowErrorBox is on), the last one decides number and text.

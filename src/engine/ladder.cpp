@@ -45,30 +45,24 @@ private:
 
 // The value of a comma list is its last element; every element's 15-digit
 // text goes to CommaList for the function that may stand before the bracket.
+// Lists nest, and an inner list closes before the outer one goes on, so the
+// values of all open lists share one stack.
 void Ladder::ParseList(double& value) {
     double left = 0;
     double right = 0;
+    const std::size_t first = openListValues_.size();
     ParseAssignment(value);
-    std::vector<double> values{value};
+    openListValues_.push_back(value);
     while (state_.CurrentToken == u",") {
         left = value;
         ReadToken(state_);
         ParseAssignment(right);
         ApplyOperator(state_, u",", left, right);
         value = left;
-        values.push_back(value);
+        openListValues_.push_back(value);
     }
-    closedList_ = std::move(values);
-    listPending_ = true;
-}
-
-void Ladder::FlushCommaList() {
-    if (!listPending_) return;
-    std::vector<std::u16string> texts;
-    texts.reserve(closedList_.size());
-    for (const double value : closedList_) texts.emplace_back(TrimBlanks(NumberText(value)));
-    state_.CommaList.Assign(std::move(texts));
-    listPending_ = false;
+    state_.CommaList.Close(std::span(openListValues_).subspan(first));
+    openListValues_.resize(first);
 }
 
 void Ladder::ParseBinary(double& value, bool (*isOperator)(std::u16string_view), Level next) {
@@ -107,8 +101,7 @@ void Ladder::ParseCall(double& value) {
     const std::u16string name = state_.CurrentToken;
     ReadToken(state_);
     ParseBracket(value);
-    FlushCommaList();
-    CallBuiltin(name, value, state_.CommaList, state_.ApproximateBits, state_);
+    CallBuiltin(name, value, state_.CommaList.Texts(), state_.ApproximateBits, state_);
 }
 
 void Ladder::ParseBracket(double& value) {

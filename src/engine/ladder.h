@@ -13,8 +13,6 @@ namespace tessarondel {
 class Ladder {
 public:
     explicit Ladder(EngineState& state) : state_(state) {}
-    // The comma list that closed last reaches CommaList at the latest here.
-    ~Ladder() { FlushCommaList(); }
     Ladder(const Ladder&) = delete;
     Ladder& operator=(const Ladder&) = delete;
 
@@ -39,15 +37,9 @@ private:
     // The shape of the binary levels: operands from `next`, left-associative.
     void ParseBinary(double& value, bool (*isOperator)(std::u16string_view), Level next);
 
-    // CommaList holds 15-digit texts, but only a built-in call reads it before the
-    // next list closes; so the values of the list that closed last are kept and
-    // turned into texts only when a built-in is called or the ladder is done.
-    void FlushCommaList();
-
     EngineState& state_;
     int bracketDepth_ = 0;
-    std::vector<double> closedList_;
-    bool listPending_ = false;
+    std::vector<double> openListValues_;  // the values of every open comma list
 };
 
 }  // namespace tessarondel

@@ -40,25 +40,27 @@ std::size_t DecodeOne(std::string_view s, std::size_t i, char32_t& cp) {
 }  // namespace
 
 std::u16string ToUtf16(std::string_view utf8) {
-    std::u16string out;
-    out.reserve(utf8.size());
+    // No sequence gives more 16-bit units than it has bytes.
+    std::u16string out(utf8.size(), u'\0');
+    std::size_t n = 0;
     for (std::size_t i = 0; i < utf8.size();) {
         char32_t cp = 0;
         const std::size_t length = DecodeOne(utf8, i, cp);
         if (length == 0) {
-            out += Replacement;
+            out[n++] = Replacement;
             ++i;
             continue;
         }
         if (cp >= 0x10000) {
             cp -= 0x10000;
-            out += static_cast<char16_t>(0xD800 + (cp >> 10));
-            out += static_cast<char16_t>(0xDC00 + (cp & 0x3FF));
+            out[n++] = static_cast<char16_t>(0xD800 + (cp >> 10));
+            out[n++] = static_cast<char16_t>(0xDC00 + (cp & 0x3FF));
         } else {
-            out += static_cast<char16_t>(cp);
+            out[n++] = static_cast<char16_t>(cp);
         }
         i += length;
     }
+    out.resize(n);
     return out;
 }
 

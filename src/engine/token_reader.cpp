@@ -26,36 +26,35 @@ std::size_t BaseLiteralLength(std::u16string_view rest) {
 void ReadTokenUnguarded(EngineState& state, std::u16string_view& token) {
     state.TokenStream.TrimBlanks();
     const std::u16string_view rest = state.TokenStream.Rest();
-    if (rest.empty()) return;
-    const char16_t c = rest[0];
-    std::size_t length = 0;
-    if (IsOperatorText(rest.substr(0, 1))) {
-        length = rest.size() > 2 && IsOperatorText(rest.substr(0, 2)) ? 2 : 1;
-        state.TokenKind = TokenOperator;
-    } else if (IsLetterChar(c) || IsDigitChar(c)) {
-        length = NameLength(rest);
-        state.TokenKind = IsDigitChar(c) ? TokenNumber : TokenIdentifier;
-    } else if (rest.size() < 3) {
-        state.ReportError(InvalidIdentifiers);
-        return;
-    } else if (InBracedList(AsciiLower(rest.substr(0, 2)), BasePrefixList)) {
-        length = BaseLiteralLength(rest);
-        state.TokenKind = TokenNumber;
-    } else {
-        return;  // unreadable: looks like the end of the stream
-    }
-    token = rest.substr(0, length);
-    state.TokenStream.Consume(length);  // moves the offset only: the view stays valid
+    const TokenShape shape = ShapeOfToken(rest);
+    if (shape.invalid) state.ReportError(InvalidIdentifiers);
+    if (shape.length == 0) return;
+    state.TokenKind = shape.kind;
+    token = rest.substr(0, shape.length);
+    state.TokenStream.Consume(shape.length);  // moves the offset only: the view stays valid
     if (state.TokenKind == TokenIdentifier) {
         if (IsFunctionName(state, token)) {
             state.TokenKind = TokenFunction;
-        } else if (!state.ExpansionScan && !VariableExists(state, token)) {
+        } else if (!VariableExists(state, token)) {
             AddVariable(state, token);
         }
     }
 }
 
 }  // namespace
+
+TokenShape ShapeOfToken(std::u16string_view rest) {
+    if (rest.empty()) return {};
+    const char16_t c = rest[0];
+    if (IsOperatorText(rest.substr(0, 1))) {
+        // A two-character operator counts only with a third character behind it.
+        return {rest.size() > 2 && IsOperatorText(rest.substr(0, 2)) ? 2U : 1U, TokenOperator};
+    }
+    if (IsLetterChar(c) || IsDigitChar(c)) return {NameLength(rest), IsDigitChar(c) ? TokenNumber : TokenIdentifier};
+    if (rest.size() < 3) return {0, TokenNone, true};
+    if (InBracedList(AsciiLower(rest.substr(0, 2)), BasePrefixList)) return {BaseLiteralLength(rest), TokenNumber};
+    return {};  // unreadable: looks like the end of the stream
+}
 
 void ReadToken(EngineState& state) {
     state.TokenKind = TokenNone;

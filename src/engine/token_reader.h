@@ -1,12 +1,25 @@
 #pragma once
 
+#include <cstddef>
+#include <string_view>
+
 #include "engine/engine_state.h"
 
 namespace tessarondel {
 
 // Cuts the next token off the front of state.TokenStream into CurrentToken and
-// TokenKind. Creates a variable for a new identifier unless ExpansionScan is on.
+// TokenKind. Creates a variable for a new identifier.
 void ReadToken(EngineState& state);
+
+// Where the token at the front of a text ends and what kind it is. `rest`
+// starts with no blank and ends with none. Length 0 means the reader stops
+// there: at the end, at an unreadable character, or after error 3 (`invalid`).
+struct TokenShape {
+    std::size_t length = 0;
+    int kind = TokenNone;
+    bool invalid = false;
+};
+TokenShape ShapeOfToken(std::u16string_view rest);
 
 // Membership in the built-in, alias or custom function name lists, untrimmed.
 bool IsFunctionName(const EngineState& state, std::u16string_view name);

@@ -146,7 +146,6 @@ std::u16string BuildTokenStream(EngineState& state, std::u16string_view source) 
         std::u16string src = AsciiLower(source);
         BlankTabsAndLineEnds(src);
         src = ExpandCustomFunctionCalls(state, std::move(src));
-        state.ExpansionScan = false;
         if (RewriteAndCheck(state, src)) result = std::move(src);
     });
     return result;

@@ -65,27 +65,37 @@ int GetVariableSnapshot(EngineState& state, std::vector<VariableRecord>& list) {
 
 namespace {
 
-const std::u16string& ListedValueText(EngineState& state, std::size_t slot) {
-    auto& cache = state.ListedValueTexts;
-    if (cache.size() <= slot) cache.resize(slot + 1, {0.0, NumberText(0.0)});
-    auto& [value, text] = cache[slot];
-    if (value != state.VariableTable[slot].value) {
-        value = state.VariableTable[slot].value;
-        text = NumberText(value);
+// Brings the listed variables up to the table; false when none changed.
+bool UpdateListedVariables(EngineState& state) {
+    std::vector<ListedVariable>& listed = state.ListedVariables;
+    const std::size_t count = state.VariableTable.empty() ? 0 : state.VariableTable.size() - 1;
+    bool changed = listed.size() != count;
+    listed.resize(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const VariableSlot& slot = state.VariableTable[i + 1];
+        ListedVariable& entry = listed[i];
+        if (entry.name != slot.name) {
+            entry.name = slot.name;
+            changed = true;
+        }
+        // Equal values have equal texts; 0 and -0 both list as 0.
+        if (entry.valueText.empty() || entry.value != slot.value) {
+            entry.value = slot.value;
+            entry.valueText = NumberText(slot.value);
+            changed = true;
+        }
     }
-    return text;
+    return changed;
 }
 
 }  // namespace
 
 void BuildVariableListing(EngineState& state) {
-    state.VariableListing.clear();
     RunIgnoringFailures([&] {
-        for (std::size_t i = 1; i < state.VariableTable.size(); ++i) {
-            state.VariableListing.append(state.VariableTable[i].name)
-                .append(u"\t=\t")
-                .append(ListedValueText(state, i))
-                .append(u"\r\n");
+        if (!UpdateListedVariables(state)) return;
+        state.VariableListing.clear();
+        for (const ListedVariable& variable : state.ListedVariables) {
+            state.VariableListing.append(variable.name).append(u"\t=\t").append(variable.valueText).append(u"\r\n");
         }
     });
 }

@@ -65,13 +65,9 @@ const ReaderRow kReaderRows[] = {
 INSTANTIATE_TEST_SUITE_P(Rows, Reader, testing::ValuesIn(kReaderRows),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(Reader, CreatesVariablesUnlessExpansionScans) {
+TEST(Reader, CreatesEachNewVariableOnce) {
     EngineState state = testing_engine::FreshEngine();
     int error = -1;
-    state.ExpansionScan = true;
-    ReadAll(state, u"x+y", error);
-    EXPECT_TRUE(state.VariableNames.empty());
-    state.ExpansionScan = false;
     ReadAll(state, u"x+y+x", error);
     EXPECT_EQ(ToUtf8(state.VariableNames), "{x}{y}");
 }

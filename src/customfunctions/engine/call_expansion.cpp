@@ -1,6 +1,7 @@
 #include "customfunctions/engine/call_expansion.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "customfunctions/engine/function_table.h"
@@ -94,39 +95,53 @@ bool BuildReplacement(EngineState& state, const std::u16string& token, std::u16s
     return true;
 }
 
-// One pass of the scan: reads tokens until a custom name, and expands its first
+// The first token of `text` that names a custom function, read as the reader
+// reads, from the first character. The walk keeps its own cursor, so it
+// creates no variables; it stops where the reader stops, and the empty token
+// it ends on is tested as well. Error 3 of the reader is reported here.
+std::optional<std::u16string_view> FindCustomName(EngineState& state, std::u16string_view text) {
+    std::u16string_view rest = text;
+    while (true) {
+        rest = TrimBlanks(rest);
+        const TokenShape shape = ShapeOfToken(rest);
+        if (shape.invalid) state.ReportError(InvalidIdentifiers);
+        const std::u16string_view token = TrimBlanks(rest.substr(0, shape.length));
+        if (IsCustomFunctionName(state, token)) return token;
+        if (shape.length == 0) return std::nullopt;
+        rest.remove_prefix(shape.length);
+    }
+}
+
+// One pass of the scan: finds the first custom name, and expands its first
 // call everywhere. Returns false when the scan reached the end or was refused.
 bool ExpandNextCall(EngineState& state, std::u16string& text, SlotList<std::u16string>& arguments, bool& refused) {
-    do {
-        ReadToken(state);
-        if (!IsCustomFunctionName(state, state.CurrentToken)) continue;
-        const std::u16string token = state.CurrentToken;
-        const CallSite site = FindCallSite(text, token);
-        if (site.open == 0 || site.close == 0) {
-            if (site.open != 0) state.ErrorNumber = BracketsMismatch;
-            refused = true;
-            return false;
-        }
-        const std::size_t argumentStart = site.open + token.size() + 1;
-        const std::u16string_view argumentText =
-            std::u16string_view(text).substr(argumentStart - 1, site.close - argumentStart);
-        std::u16string replacement;
-        if (!BuildReplacement(state, token, argumentText, arguments, replacement)) {
-            refused = true;
-            return false;
-        }
-        const std::u16string callText = text.substr(site.open - 1, site.close - site.open + 1);
-        // Only a table put out of step by dropping an unknown name lets a name
-        // reach a body that holds its own call. Then the restart finds the same
-        // call for ever: unchanged, a fault; growing, until the text is longer
-        // than its 16-bit positions can count.
-        if (replacement == callText) throw RunFailure("a call that expands to itself");
-        // Every identical call goes at once, and any text that merely ends in it.
-        text = ReplaceAll(text, callText, replacement);
-        Position(text.size());
-        return true;
-    } while (!state.CurrentToken.empty());
-    return false;
+    const std::optional<std::u16string_view> found = FindCustomName(state, text);
+    if (!found) return false;
+    const std::u16string token(*found);
+    const CallSite site = FindCallSite(text, token);
+    if (site.open == 0 || site.close == 0) {
+        if (site.open != 0) state.ErrorNumber = BracketsMismatch;
+        refused = true;
+        return false;
+    }
+    const std::size_t argumentStart = site.open + token.size() + 1;
+    const std::u16string_view argumentText =
+        std::u16string_view(text).substr(argumentStart - 1, site.close - argumentStart);
+    std::u16string replacement;
+    if (!BuildReplacement(state, token, argumentText, arguments, replacement)) {
+        refused = true;
+        return false;
+    }
+    const std::u16string callText = text.substr(site.open - 1, site.close - site.open + 1);
+    // Only a table put out of step by dropping an unknown name lets a name
+    // reach a body that holds its own call. Then the restart finds the same
+    // call for ever: unchanged, a fault; growing, until the text is longer
+    // than its 16-bit positions can count.
+    if (replacement == callText) throw RunFailure("a call that expands to itself");
+    // Every identical call goes at once, and any text that merely ends in it.
+    text = ReplaceAll(text, callText, replacement);
+    Position(text.size());
+    return true;
 }
 
 }  // namespace
@@ -142,11 +157,10 @@ std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text
     // after a good one passes the bound test and is refused by its blankness.
     SlotList<std::u16string> arguments;
     const bool finished = RunWithFailureHandler(state, [&] {
-        state.TokenStream.Assign(text);
-        state.ExpansionScan = true;
         bool refused = false;
         // After each replacement the scan starts again at the first character.
-        while (ExpandNextCall(state, text, arguments, refused)) state.TokenStream.Assign(text);
+        bool expanded = true;
+        while (expanded) expanded = ExpandNextCall(state, text, arguments, refused);
         if (refused) state.ReportError(state.ErrorNumber);
     });
     return finished ? text : std::u16string();

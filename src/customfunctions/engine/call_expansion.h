@@ -8,7 +8,8 @@
 namespace tessarondel {
 
 // Replaces every call of a custom function in `text` by its body with the
-// argument texts bound; drives the token reader with ExpansionScan on. On a
+// argument texts bound; finds the calls by reading tokens as the reader does,
+// without creating variables. On a
 // refused call the error is reported and the text so far is returned; after a
 // run-time fault the empty text.
 std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text);
