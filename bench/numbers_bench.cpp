@@ -17,13 +17,13 @@ public:
     void ReportError(int) override {}
 };
 
-SlotList<std::u16string> OneElement(double x) {
-    return SlotList<std::u16string>({std::u16string(TrimBlanks(NumberText(x)))});
+CommaTexts OneElement(double x) {
+    return CommaTexts({std::u16string(TrimBlanks(NumberText(x)))});
 }
 
 // A one-argument function as the ladder calls it.
 void CallOneArgument(benchmark::State& run, std::u16string_view name, double x) {
-    const SlotList<std::u16string> list = OneElement(x);
+    const CommaTexts list = OneElement(x);
     DiscardingSink sink;
     for (auto _ : run) {
         double value = x;
@@ -59,7 +59,7 @@ BENCHMARK(BM_CallBuiltin_Radtoang);
 void CallList(benchmark::State& run, std::u16string_view name) {
     std::vector<std::u16string> texts;
     for (long i = 0; i < run.range(0); ++i) texts.emplace_back(TrimBlanks(NumberText(1 + i / 7.0)));
-    const SlotList<std::u16string> list(texts);
+    const CommaTexts list(texts);
     DiscardingSink sink;
     for (auto _ : run) {
         double value = 1;
@@ -77,7 +77,7 @@ BENCHMARK(BM_CallBuiltin_Max)->Arg(10)->Arg(1000);
 BENCHMARK(BM_CallBuiltin_Std)->Arg(10)->Arg(1000);
 
 void BM_CallBuiltin_Round(benchmark::State& run) {
-    const SlotList<std::u16string> list({u"3.14159", u"2"});
+    const CommaTexts list({u"3.14159", u"2"});
     DiscardingSink sink;
     for (auto _ : run) {
         double value = 2;

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "engine/comma_list.h"
+#include "numbers/comma_texts.h"
 #include "numbers/error_sink.h"
 #include "numbers/slot_list.h"
 
@@ -133,7 +133,7 @@ struct EngineState final : ErrorSink {
     TokenStreamText TokenStream;
     std::u16string CurrentToken;
     int TokenKind = TokenNone;
-    CommaListTexts CommaList;
+    CommaTexts CommaList;
 
     // Records an error: the first one of an evaluation sets ErrorFlag (and shows
     // the box when ShowErrorBox is on), the last one decides number and text.

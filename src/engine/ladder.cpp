@@ -61,7 +61,7 @@ void Ladder::ParseList(double& value) {
         value = left;
         openListValues_.push_back(value);
     }
-    state_.CommaList.Close(std::span(openListValues_).subspan(first));
+    state_.CommaList.AssignValues(std::span(openListValues_).subspan(first));
     openListValues_.resize(first);
 }
 
@@ -101,7 +101,7 @@ void Ladder::ParseCall(double& value) {
     const std::u16string name = state_.CurrentToken;
     ReadToken(state_);
     ParseBracket(value);
-    CallBuiltin(name, value, state_.CommaList.Texts(), state_.ApproximateBits, state_);
+    CallBuiltin(name, value, state_.CommaList, state_.ApproximateBits, state_);
 }
 
 void Ladder::ParseBracket(double& value) {

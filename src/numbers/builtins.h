@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "numbers/error_sink.h"
-#include "numbers/slot_list.h"
+#include "numbers/comma_texts.h"
 
 namespace tessarondel {
 
@@ -17,7 +17,7 @@ inline constexpr double BigValue = 1.79769313486231E308;
 // 15-digit texts. Reports domain errors to `errors`; a run-time failure is
 // handled here (6 for overflow, 99 otherwise) and leaves `value` as it came.
 // Rounds the result to `approximateBits` places when that is 0..22.
-void CallBuiltin(std::u16string_view name, double& value, const SlotList<std::u16string>& commaList,
+void CallBuiltin(std::u16string_view name, double& value, const CommaTexts& commaList,
                  int approximateBits, ErrorSink& errors);
 
 }  // namespace tessarondel

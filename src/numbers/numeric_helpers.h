@@ -4,15 +4,13 @@
 #include <string>
 
 #include "numbers/error_sink.h"
-#include "numbers/slot_list.h"
+#include "numbers/comma_texts.h"
 
 namespace tessarondel {
 
 // The routines behind the built-in functions. None has a failure handler: an
 // OverflowFailure or RunFailure goes up to CallBuiltin's. Domain errors are
 // reported to `errors` and the routine returns as its row says.
-
-using CommaTexts = SlotList<std::u16string>;
 
 // x rounded to 15 significant digits, as its display text reads back;
 // OverflowFailure when that rounding leaves the double range.

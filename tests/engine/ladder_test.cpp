@@ -101,12 +101,12 @@ TEST(RightOperand, IsNotResetBetweenRounds) {
 TEST(CommaList, HoldsFifteenDigitTextsOfTheOutermostList) {
     EngineState state = testing_engine::FreshEngine();
     testing_engine::Evaluate(state, "1/3,(4,5),2");
-    EXPECT_EQ(state.CommaList.Texts().Items(), (std::vector<std::u16string>{u".333333333333333", u"5", u"2"}));
+    EXPECT_EQ(state.CommaList.Items(), (std::vector<std::u16string>{u".333333333333333", u"5", u"2"}));
 }
 
 TEST(CommaList, StartsWithoutSlots) {
     EngineState state;
-    EXPECT_FALSE(state.CommaList.Texts().HasSlots());
+    EXPECT_FALSE(state.CommaList.HasSlots());
 }
 
 TEST(AutoRounding, RoundsEveryOperatorResult) {

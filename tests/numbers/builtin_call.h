@@ -39,7 +39,7 @@ inline CallOutcome CallWith(std::string_view name, const std::vector<double>& ar
     CallOutcome outcome;
     outcome.value = arguments.back();
     RecordingSink sink;
-    CallBuiltin(testing_text::U16(name), outcome.value, SlotList<std::u16string>(texts), approximateBits, sink);
+    CallBuiltin(testing_text::U16(name), outcome.value, CommaTexts(texts), approximateBits, sink);
     outcome.reports = sink.reports;
     return outcome;
 }

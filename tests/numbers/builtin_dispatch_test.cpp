@@ -66,7 +66,7 @@ TEST(BuiltinDispatch, RoundingRunsAfterADomainErrorButNotAfterAFailure) {
 TEST(BuiltinDispatch, FailureOutsideOverflowIsUnknownError) {
     RecordingSink sink;
     double value = 7;
-    CallBuiltin(u"sum", value, SlotList<std::u16string>({U16("abc")}), -1, sink);
+    CallBuiltin(u"sum", value, CommaTexts({U16("abc")}), -1, sink);
     EXPECT_EQ(sink.reports, std::vector<int>{99});
     EXPECT_EQ(value, 7);
 }
@@ -74,7 +74,7 @@ TEST(BuiltinDispatch, FailureOutsideOverflowIsUnknownError) {
 TEST(BuiltinDispatch, ElementBeyondTheDoubleRangeIsOverflow) {
     RecordingSink sink;
     double value = 7;
-    CallBuiltin(u"max", value, SlotList<std::u16string>({U16("1"), U16("1E+999")}), -1, sink);
+    CallBuiltin(u"max", value, CommaTexts({U16("1"), U16("1E+999")}), -1, sink);
     EXPECT_EQ(sink.reports, std::vector<int>{6});
     EXPECT_EQ(value, 7);
 }
@@ -82,7 +82,7 @@ TEST(BuiltinDispatch, ElementBeyondTheDoubleRangeIsOverflow) {
 TEST(BuiltinDispatch, ListWithoutSlotsIsUnknownError) {
     RecordingSink sink;
     double value = 7;
-    CallBuiltin(u"sin", value, SlotList<std::u16string>(), -1, sink);
+    CallBuiltin(u"sin", value, CommaTexts(), -1, sink);
     EXPECT_EQ(sink.reports, std::vector<int>{99});
     EXPECT_EQ(value, 7);
 }
@@ -91,7 +91,7 @@ TEST(BuiltinDispatch, OneArgumentFunctionsUseTheFullPrecisionValue) {
     // The element text says 0.3; the value is 0.30000000000000004.
     RecordingSink sink;
     double value = 0.1 + 0.2;
-    CallBuiltin(u"sqr", value, SlotList<std::u16string>({U16("0.3")}), -1, sink);
+    CallBuiltin(u"sqr", value, CommaTexts({U16("0.3")}), -1, sink);
     EXPECT_EQ(value, (0.1 + 0.2) * (0.1 + 0.2));
 }
 
