@@ -106,7 +106,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::o
 // Prints the result as the main window shows it in the chosen base; false
 // when the evaluation failed. A failed base conversion leaves the decimal text.
 bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::string& expression, std::ostream& out) {
-    const std::u16string result = EvaluateText(engine, ToUtf16(expression));
+    std::u16string text = ToUtf16(expression);
+    const std::u16string result = EvaluateExpression(engine, text);
     const bool good = !engine.ErrorFlag;
     if (good) {
         const BaseDisplay display =

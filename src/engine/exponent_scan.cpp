@@ -91,15 +91,11 @@ private:
 }  // namespace
 
 void ScanExponents(EngineState& state, std::u16string& src) {
-    RunIgnoringFailures([&] {
-        std::u16string text = AsciiLower(TrimBlanks(src));
-        if (text.find(u'e') == std::u16string::npos) {
-            src = std::move(text);
-            return;
-        }
-        src = text;  // a failure below leaves the trimmed text
-        src = ExponentScan(state, std::move(text)).Run();
-    });
+    TrimBlanksInPlace(src);
+    LowerAsciiInPlace(src);
+    if (src.find(u'e') == std::u16string::npos) return;
+    // A failure leaves the trimmed text.
+    RunIgnoringFailures([&] { src = ExponentScan(state, src).Run(); });
 }
 
 }  // namespace tessarondel

@@ -1,5 +1,7 @@
 #include "engine/text_codec.h"
 
+#include <algorithm>
+
 namespace tessarondel {
 
 namespace {
@@ -83,8 +85,12 @@ void AppendUtf8(std::string& out, char32_t cp) {
 }
 
 std::string ToUtf8(std::u16string_view utf16) {
+    // Results and messages are nearly always ASCII: one copy.
+    if (std::all_of(utf16.begin(), utf16.end(), [](char16_t c) { return c < 0x80; })) {
+        return std::string(utf16.begin(), utf16.end());
+    }
     std::string out;
-    out.reserve(utf16.size());
+    out.reserve(utf16.size() + 8);
     for (std::size_t i = 0; i < utf16.size(); ++i) {
         char32_t cp = utf16[i];
         if (cp >= 0xD800 && cp <= 0xDBFF && i + 1 < utf16.size() && utf16[i + 1] >= 0xDC00 && utf16[i + 1] <= 0xDFFF) {

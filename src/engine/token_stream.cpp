@@ -131,13 +131,15 @@ void InsertSignZeros(std::u16string& src) {
     std::size_t zeros = 0;
     for (std::size_t i = 0; i < src.size(); ++i) zeros += needsZero(i) ? 1 : 0;
     if (zeros == 0) return;
-    std::u16string out;
-    out.reserve(src.size() + zeros);
-    for (std::size_t i = 0; i < src.size(); ++i) {
-        if (needsZero(i)) out += u'0';
-        out += src[i];
+    // From the back, so that every character moves once and the text in
+    // front of the one being moved is still unmoved.
+    std::size_t out = src.size() + zeros;
+    src.resize(out);
+    for (std::size_t i = out - zeros; i-- > 0;) {
+        const bool zero = needsZero(i);
+        src[--out] = src[i];
+        if (zero) src[--out] = u'0';
     }
-    src = std::move(out);
 }
 
 std::u16string BuildTokenStream(EngineState& state, std::u16string_view source) {

@@ -2,18 +2,21 @@
 
 namespace tessarondel {
 
-std::u16string_view TrimBlanks(std::u16string_view text) {
-    std::size_t first = 0;
-    std::size_t end = text.size();
-    while (first < end && text[first] == u' ') ++first;
-    while (end > first && text[end - 1] == u' ') --end;
-    return text.substr(first, end - first);
-}
-
 std::u16string AsciiLower(std::u16string_view text) {
     std::u16string out(text);
-    for (auto& c : out) c = AsciiLowerChar(c);
+    LowerAsciiInPlace(out);
     return out;
+}
+
+void LowerAsciiInPlace(std::u16string& text) {
+    for (auto& c : text) c = AsciiLowerChar(c);
+}
+
+void TrimBlanksInPlace(std::u16string& text) {
+    const std::u16string_view trimmed = TrimBlanks(text);
+    const auto first = static_cast<std::size_t>(trimmed.data() - text.data());
+    text.resize(first + trimmed.size());
+    text.erase(0, first);
 }
 
 std::u16string AsciiUpper(std::u16string_view text) {

@@ -9,8 +9,17 @@ namespace tessarondel {
 // line ends stay. Case changes touch ASCII letters only, so no character is
 // ever split or turned into an ASCII letter (U+212A stays what it is).
 
-std::u16string_view TrimBlanks(std::u16string_view text);
+inline std::u16string_view TrimBlanks(std::u16string_view text) {
+    std::size_t first = 0;
+    std::size_t end = text.size();
+    while (first < end && text[first] == u' ') ++first;
+    while (end > first && text[end - 1] == u' ') --end;
+    return text.substr(first, end - first);
+}
+void TrimBlanksInPlace(std::u16string& text);
+
 std::u16string AsciiLower(std::u16string_view text);
+void LowerAsciiInPlace(std::u16string& text);
 std::u16string AsciiUpper(std::u16string_view text);
 
 constexpr char16_t AsciiLowerChar(char16_t c) { return (c >= u'A' && c <= u'Z') ? static_cast<char16_t>(c + 32) : c; }

@@ -163,7 +163,8 @@ std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text
         while (expanded) expanded = ExpandNextCall(state, text, arguments, refused);
         if (refused) state.ReportError(state.ErrorNumber);
     });
-    return finished ? text : std::u16string();
+    if (!finished) return {};
+    return text;
 }
 
 bool SplitCallArguments(EngineState& state, std::u16string_view argumentText, long parameterUpperBound,
