@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/variable_listing.h"
 #include "numbers/comma_texts.h"
 #include "numbers/error_sink.h"
 #include "numbers/slot_list.h"
@@ -31,13 +32,6 @@ enum TokenKind : int {
 struct VariableSlot {
     std::u16string name;
     double value = 0.0;
-};
-
-// A variable as the listing shows it: name, value and the value's NumberText.
-struct ListedVariable {
-    std::u16string name;
-    double value = 0.0;
-    std::u16string valueText;
 };
 
 // A variable as the shell receives it: name and value text.
@@ -122,10 +116,7 @@ struct EngineState final : ErrorSink {
 
     std::vector<VariableSlot> VariableTable = std::vector<VariableSlot>(1);  // slot 0 is never used
     std::u16string VariableNames;                                            // "{x}{y}"
-    std::u16string VariableListing;
-    // What the last listing shows for each slot, so that a listing is written
-    // again only when a variable changed, and formats only the changed values.
-    std::vector<ListedVariable> ListedVariables;
+    VariableListingText VariableListing;
 
     SlotList<CustomFunctionEntry> CustomFunctionTable;
     std::u16string CustomFunctionNames;  // "{hyp}{area}"

@@ -63,41 +63,6 @@ int GetVariableSnapshot(EngineState& state, std::vector<VariableRecord>& list) {
     return static_cast<int>(count);
 }
 
-namespace {
-
-// Brings the listed variables up to the table; false when none changed.
-bool UpdateListedVariables(EngineState& state) {
-    std::vector<ListedVariable>& listed = state.ListedVariables;
-    const std::size_t count = state.VariableTable.empty() ? 0 : state.VariableTable.size() - 1;
-    bool changed = listed.size() != count;
-    listed.resize(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        const VariableSlot& slot = state.VariableTable[i + 1];
-        ListedVariable& entry = listed[i];
-        if (entry.name != slot.name) {
-            entry.name = slot.name;
-            changed = true;
-        }
-        // Equal values have equal texts; 0 and -0 both list as 0.
-        if (entry.valueText.empty() || entry.value != slot.value) {
-            entry.value = slot.value;
-            entry.valueText = NumberText(slot.value);
-            changed = true;
-        }
-    }
-    return changed;
-}
-
-}  // namespace
-
-void BuildVariableListing(EngineState& state) {
-    RunIgnoringFailures([&] {
-        if (!UpdateListedVariables(state)) return;
-        state.VariableListing.clear();
-        for (const ListedVariable& variable : state.ListedVariables) {
-            state.VariableListing.append(variable.name).append(u"\t=\t").append(variable.valueText).append(u"\r\n");
-        }
-    });
-}
+void BuildVariableListing(EngineState& state) { state.VariableListing.Take(state.VariableTable); }
 
 }  // namespace tessarondel

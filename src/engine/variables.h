@@ -15,7 +15,7 @@ std::int32_t VariableIndex(EngineState& state, std::u16string_view name);
 // Appends a variable with the value 0; the caller has checked that it is new.
 void AddVariable(EngineState& state, std::u16string_view name);
 double VariableValue(EngineState& state, std::u16string_view name);
-// One "name<TAB>=<TAB> value<CR><LF>" line per variable into VariableListing.
+// Lets VariableListing show the variables as they stand.
 void BuildVariableListing(EngineState& state);
 
 }  // namespace tessarondel
