@@ -87,6 +87,44 @@ void BM_CallBuiltin_Round(benchmark::State& run) {
 }
 BENCHMARK(BM_CallBuiltin_Round);
 
+// The number texts: reading a token, writing a result.
+void BM_TextToNumber_ShortToken(benchmark::State& run) {
+    for (auto _ : run) benchmark::DoNotOptimize(TextToNumber(u"12.5"));
+}
+void BM_TextToNumber_FifteenDigits(benchmark::State& run) {
+    for (auto _ : run) benchmark::DoNotOptimize(TextToNumber(u"3.14159265358979"));
+}
+void BM_TextToNumber_ExponentForm(benchmark::State& run) {
+    for (auto _ : run) benchmark::DoNotOptimize(TextToNumber(u"-3.33333333333333E-02"));
+}
+BENCHMARK(BM_TextToNumber_ShortToken);
+BENCHMARK(BM_TextToNumber_FifteenDigits);
+BENCHMARK(BM_TextToNumber_ExponentForm);
+
+void WriteNumberText(benchmark::State& run, double x) {
+    for (auto _ : run) {
+        benchmark::DoNotOptimize(x);
+        benchmark::DoNotOptimize(NumberText(x));
+    }
+}
+void BM_NumberText_Fraction(benchmark::State& run) { WriteNumberText(run, 8.6); }
+void BM_NumberText_LongFraction(benchmark::State& run) { WriteNumberText(run, 1.0 / 7); }
+void BM_NumberText_Integer(benchmark::State& run) { WriteNumberText(run, 123456); }
+void BM_NumberText_ExponentForm(benchmark::State& run) { WriteNumberText(run, 1.0 / 30); }
+BENCHMARK(BM_NumberText_Fraction);
+BENCHMARK(BM_NumberText_LongFraction);
+BENCHMARK(BM_NumberText_Integer);
+BENCHMARK(BM_NumberText_ExponentForm);
+
+void BM_DisplayNumberText_Fraction(benchmark::State& run) {
+    double x = 8.6;
+    for (auto _ : run) {
+        benchmark::DoNotOptimize(x);
+        benchmark::DoNotOptimize(DisplayNumberText(x));
+    }
+}
+BENCHMARK(BM_DisplayNumberText_Fraction);
+
 // The longest text that the display writes: 256 hexadecimal digits.
 void BM_NumberToBaseText_BigValueHex(benchmark::State& run) {
     DiscardingSink sink;
