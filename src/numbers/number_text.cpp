@@ -68,7 +68,7 @@ struct ScaledValue {
 
 ScaledValue ScaleExactly(std::uint64_t mantissa, int binaryExponent, int scale) {
     // 10^scale = 5^scale * 2^scale: one wide product, then a right shift
-    // (between 3 and 68 places for the values that come here).
+    // (between 3 and 69 places for the values that come here).
     const Uint128 product = static_cast<Uint128>(mantissa) * PowersOfFive[static_cast<std::size_t>(scale)];
     const int shift = binaryExponent + scale;
     const Uint128 remainder = product & ((static_cast<Uint128>(1) << -shift) - 1);

@@ -39,10 +39,8 @@ Reading ReadWithTextToNumber(const std::string& text) {
     }
 }
 
-// Blanks around, a sign, digits with at most one point, an e/d exponent.
+// The reading of a numeric text, d read as e.
 Reading ReadWithStrtod(const std::string& text) {
-    static const std::regex numeric(" *[-+]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eEdD][-+]?[0-9]+)? *");
-    if (!std::regex_match(text, numeric)) return {Outcome::NoNumber, 0};
     std::string ascii = text;
     for (char& c : ascii) {
         if (c == 'd' || c == 'D') c = 'e';
@@ -54,6 +52,7 @@ Reading ReadWithStrtod(const std::string& text) {
 }
 
 // How the generated tokens look: significant digits, zeros around them, exponent range.
+// Every token is numeric.
 struct TokenShape {
     const char* label;
     int count;
@@ -114,13 +113,15 @@ INSTANTIATE_TEST_SUITE_P(Shapes, TextToNumberAgainstStrtod, testing::ValuesIn(kT
 
 // Short texts of the characters a token is made of, mostly not numeric.
 TEST(TextToNumberAgainstStrtod, TellsNumbersFromOtherTexts) {
+    // Blanks around, a sign, digits with at most one point, an e/d exponent.
+    const std::regex numericText(" *[-+]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eEdD][-+]?[0-9]+)? *");
     const std::string alphabet = "0019..eEdD+- x";
     std::mt19937 random(11);
     int numeric = 0;
     for (int i = 0; i < 30000; ++i) {
         std::string text(random() % 8, ' ');
         for (char& c : text) c = alphabet[random() % alphabet.size()];
-        const Reading expected = ReadWithStrtod(text);
+        const Reading expected = std::regex_match(text, numericText) ? ReadWithStrtod(text) : Reading{};
         const Reading actual = ReadWithTextToNumber(text);
         numeric += expected.outcome == Outcome::Value;
         ASSERT_EQ(actual.outcome, expected.outcome) << '"' << text << '"';
@@ -214,7 +215,7 @@ class NumberTextAgainstPrintf : public testing::TestWithParam<DoubleSource> {};
 
 TEST_P(NumberTextAgainstPrintf, WritesTheSameText) {
     std::mt19937_64 random(2026);
-    for (int i = 0; i < 20000 && !HasFatalFailure(); ++i) ExpectBothTexts(GetParam().draw(random, i));
+    for (int i = 0; i < 12000 && !HasFatalFailure(); ++i) ExpectBothTexts(GetParam().draw(random, i));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sources, NumberTextAgainstPrintf, testing::ValuesIn(kDoubleSources),
