@@ -65,25 +65,26 @@ void Ladder::ParseList(double& value) {
     openListValues_.resize(first);
 }
 
-void Ladder::ParseBinary(double& value, bool (*isOperator)(std::u16string_view), Level next) {
+template <bool (*IsOperator)(std::u16string_view), Ladder::Level Next>
+void Ladder::ParseBinary(double& value) {
     double left = 0;
     double right = 0;
-    (this->*next)(value);
-    while (isOperator(state_.CurrentToken)) {
+    (this->*Next)(value);
+    while (IsOperator(state_.CurrentToken)) {
         left = value;
         const std::u16string op = state_.CurrentToken;
         ReadToken(state_);
-        (this->*next)(right);
+        (this->*Next)(right);
         ApplyOperator(state_, op, left, right);
         value = left;
     }
 }
 
-void Ladder::ParseLogical(double& value) { ParseBinary(value, IsLogicalOperator, &Ladder::ParseCompare); }
-void Ladder::ParseCompare(double& value) { ParseBinary(value, IsCompareOperator, &Ladder::ParseSum); }
-void Ladder::ParseSum(double& value) { ParseBinary(value, IsSumOperator, &Ladder::ParseProduct); }
-void Ladder::ParseProduct(double& value) { ParseBinary(value, IsProductOperator, &Ladder::ParsePower); }
-void Ladder::ParsePower(double& value) { ParseBinary(value, IsPowerOperator, &Ladder::ParseUnary); }
+void Ladder::ParseLogical(double& value) { ParseBinary<IsLogicalOperator, &Ladder::ParseCompare>(value); }
+void Ladder::ParseCompare(double& value) { ParseBinary<IsCompareOperator, &Ladder::ParseSum>(value); }
+void Ladder::ParseSum(double& value) { ParseBinary<IsSumOperator, &Ladder::ParseProduct>(value); }
+void Ladder::ParseProduct(double& value) { ParseBinary<IsProductOperator, &Ladder::ParsePower>(value); }
+void Ladder::ParsePower(double& value) { ParseBinary<IsPowerOperator, &Ladder::ParseUnary>(value); }
 
 void Ladder::ParseUnary(double& value) {
     int minus = 0;

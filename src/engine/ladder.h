@@ -34,8 +34,9 @@ public:
 
 private:
     using Level = void (Ladder::*)(double&);
-    // The shape of the binary levels: operands from `next`, left-associative.
-    void ParseBinary(double& value, bool (*isOperator)(std::u16string_view), Level next);
+    // The shape of the binary levels: operands from `Next`, left-associative.
+    template <bool (*IsOperator)(std::u16string_view), Level Next>
+    void ParseBinary(double& value);
 
     EngineState& state_;
     int bracketDepth_ = 0;

@@ -48,40 +48,6 @@ unsigned ListsHoldingBySubstring(std::u16string_view name) {
 
 }  // namespace
 
-// The reader's operators: one or two characters, none of them a brace, so the
-// list's entries are exactly these.
-bool IsOperatorText(std::u16string_view text) {
-    if (text.size() == 1) {
-        switch (text[0]) {
-            case u'=':
-            case u',':
-            case u'+':
-            case u'-':
-            case u'*':
-            case u'/':
-            case u'%':
-            case u'^':
-            case u'>':
-            case u'<':
-            case u'(':
-            case u')':
-            case u'&':
-            case u'|':
-                return true;
-            default:
-                return false;
-        }
-    }
-    if (text.size() != 2) return InBracedList(text, OperatorList);
-    const char16_t a = text[0];
-    const char16_t b = text[1];
-    if (a == u'%') return b == u'\\' || b == u'%' || b == u'>' || b == u'!' || b == u'~';
-    if (a == u'=') return b == u'=';
-    if (a == u'>') return b == u'=';
-    if (a == u'<') return b == u'=' || b == u'>';
-    return false;
-}
-
 bool IsConstantName(std::u16string_view name) { return (ListsHolding(name) & ConstantBit) != 0; }
 
 unsigned ListsHolding(std::u16string_view name) {

@@ -31,8 +31,39 @@ inline bool ContainsText(std::u16string_view needle, std::u16string_view haystac
 // "{name}" in `list`, without building the braced text.
 bool InBracedList(std::u16string_view name, std::u16string_view list);
 
-// Membership in the operator list of the reader and in the constant list.
-bool IsOperatorText(std::u16string_view text);
+// The reader's operators: one or two characters, none of them a brace, so the
+// list's entries are exactly these; other texts take the list's own rule.
+inline bool IsOperatorText(std::u16string_view text) {
+    if (text.size() == 1) {
+        switch (text[0]) {
+            case u'=':
+            case u',':
+            case u'+':
+            case u'-':
+            case u'*':
+            case u'/':
+            case u'%':
+            case u'^':
+            case u'>':
+            case u'<':
+            case u'(':
+            case u')':
+            case u'&':
+            case u'|':
+                return true;
+            default:
+                return false;
+        }
+    }
+    if (text.size() != 2) return InBracedList(text, OperatorList);
+    const char16_t a = text[0];
+    const char16_t b = text[1];
+    if (a == u'%') return b == u'\\' || b == u'%' || b == u'>' || b == u'!' || b == u'~';
+    if (a == u'=' || a == u'>') return b == u'=';
+    if (a == u'<') return b == u'=' || b == u'>';
+    return false;
+}
+// Membership in the constant list.
 bool IsConstantName(std::u16string_view name);
 
 // A-Z, a-z and _

@@ -46,11 +46,12 @@ void ReadTokenUnguarded(EngineState& state, std::u16string_view& token) {
 TokenShape ShapeOfToken(std::u16string_view rest) {
     if (rest.empty()) return {};
     const char16_t c = rest[0];
+    if (IsDigitChar(c)) return {NameLength(rest), TokenNumber};
+    if (IsLetterChar(c)) return {NameLength(rest), TokenIdentifier};
     if (IsOperatorText(rest.substr(0, 1))) {
         // A two-character operator counts only with a third character behind it.
         return {rest.size() > 2 && IsOperatorText(rest.substr(0, 2)) ? 2U : 1U, TokenOperator};
     }
-    if (IsLetterChar(c) || IsDigitChar(c)) return {NameLength(rest), IsDigitChar(c) ? TokenNumber : TokenIdentifier};
     if (rest.size() < 3) return {0, TokenNone, true};
     if (InBracedList(AsciiLower(rest.substr(0, 2)), BasePrefixList)) return {BaseLiteralLength(rest), TokenNumber};
     return {};  // unreadable: looks like the end of the stream

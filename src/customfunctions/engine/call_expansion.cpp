@@ -105,8 +105,8 @@ std::optional<std::u16string_view> FindCustomName(EngineState& state, std::u16st
         rest = TrimBlanks(rest);
         const TokenShape shape = ShapeOfToken(rest);
         if (shape.invalid) state.ReportError(InvalidIdentifiers);
-        const std::u16string_view token = TrimBlanks(rest.substr(0, shape.length));
-        if (IsCustomFunctionName(state, token)) return token;
+        const std::u16string_view token = rest.substr(0, shape.length);
+        if (IsCustomFunctionName(state, token)) return TrimBlanks(token);
         if (shape.length == 0) return std::nullopt;
         rest.remove_prefix(shape.length);
     }
