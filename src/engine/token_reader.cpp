@@ -57,6 +57,13 @@ TokenShape ShapeOfToken(std::u16string_view rest) {
     return {};  // unreadable: looks like the end of the stream
 }
 
+bool IsReadToTheEnd(std::u16string_view text) {
+    for (const char16_t c : text) {
+        if (c != u' ' && !IsLetterChar(c) && !IsDigitChar(c) && !IsOperatorText(std::u16string_view(&c, 1))) return false;
+    }
+    return true;
+}
+
 void ReadToken(EngineState& state) {
     state.TokenKind = TokenNone;
     state.CurrentToken.clear();

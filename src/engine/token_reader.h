@@ -21,6 +21,10 @@ struct TokenShape {
 };
 TokenShape ShapeOfToken(std::u16string_view rest);
 
+// True when every character is a blank, a letter, a digit, the point or a
+// one-character operator: the reader then reads the text to its end.
+bool IsReadToTheEnd(std::u16string_view text);
+
 // Membership in the built-in, alias or custom function name lists, untrimmed.
 bool IsFunctionName(const EngineState& state, std::u16string_view name);
 

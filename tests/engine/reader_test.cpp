@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <random>
 #include <utility>
 #include <vector>
 
 #include "engine/engine_fixture.h"
 #include "engine/token_reader.h"
+#include "numbers/text_rules.h"
 
 namespace tessarondel {
 namespace {
@@ -70,6 +72,31 @@ TEST(Reader, CreatesEachNewVariableOnce) {
     int error = -1;
     ReadAll(state, u"x+y+x", error);
     EXPECT_EQ(ToUtf8(state.VariableNames), "{x}{y}");
+}
+
+// A text that IsReadToTheEnd accepts is read whole, without error; the walk
+// for custom calls relies on that to skip texts it cannot stop in.
+TEST(Reader, ATextOfTokenCharactersIsReadToTheEnd) {
+    const std::u16string pieces[] = {u"a", u"7", u".", u"_", u" ", u"+", u"==", u"<>", u"(", u")", u",", u"%",
+                                     u"^", u"&", u"|", u"!", u"\\", u"~", u"#", u"$h", u"\t", u"\n"};
+    std::mt19937 random(5);
+    std::uniform_int_distribution<std::size_t> pick(0, std::size(pieces) - 1);
+    int accepted = 0;
+    for (int round = 0; round < 3000; ++round) {
+        std::u16string text;
+        for (int i = 0; i < 1 + round % 9; ++i) text += pieces[pick(random)];
+        if (!IsReadToTheEnd(text)) continue;
+        ++accepted;
+        SCOPED_TRACE(ToUtf8(text));
+        EngineState state = testing_engine::FreshEngine();
+        int error = -1;
+        ReadAll(state, text, error);
+        EXPECT_EQ(error, -1);
+        EXPECT_TRUE(TrimBlanks(state.TokenStream.Rest()).empty());
+    }
+    EXPECT_GT(accepted, 300);
+    EXPECT_FALSE(IsReadToTheEnd(u"5!"));
+    EXPECT_FALSE(IsReadToTheEnd(u"x\ty"));
 }
 
 TEST(Reader, CustomFunctionNamesAreFunctions) {

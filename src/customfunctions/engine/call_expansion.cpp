@@ -100,6 +100,9 @@ bool BuildReplacement(EngineState& state, const std::u16string& token, std::u16s
 // creates no variables; it stops where the reader stops, and the empty token
 // it ends on is tested as well. Error 3 of the reader is reported here.
 std::optional<std::u16string_view> FindCustomName(EngineState& state, std::u16string_view text) {
+    // Without custom functions the walk finds nothing, and it reports only
+    // where a token starts with a character that the reader cannot read.
+    if (state.CustomFunctionNames.empty() && IsReadToTheEnd(text)) return std::nullopt;
     std::u16string_view rest = text;
     while (true) {
         rest = TrimBlanks(rest);
