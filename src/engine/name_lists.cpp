@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <stdexcept>
 
 #include "engine/name_table.h"
 
@@ -19,26 +20,34 @@ bool HasListPunctuation(std::u16string_view name) {
     return false;
 }
 
+constexpr bool StartsWithLowerCase(std::u16string_view name) {
+    return !name.empty() && name[0] >= u'a' && name[0] <= u'z';
+}
+
 constexpr std::u16string_view BracedLists[] = {BuiltinFunctionList, AliasList, WordOperatorList, ConstantList};
 constexpr unsigned BracedListBits[] = {BuiltinFunctionBit, AliasBit, WordOperatorBit, ConstantBit};
 
 // Every entry of the four lists with the bit of its list. For a name without
 // braces and commas, "{name}" occurs in a list exactly when the name is an
 // entry: every "{" opens an entry and the first "}" behind it closes that
-// entry. Other names take the substring search.
+// entry. Other names take the substring search. Every entry starts with a
+// lower-case letter, so no name that starts otherwise is in a list at all.
 constexpr auto ListEntries = [] {
     NameTable<unsigned char, 80> table;
     for (std::size_t list = 0; list < std::size(BracedLists); ++list) {
         const std::u16string_view text = BracedLists[list];
         for (std::size_t open = text.find(u'{'); open != std::u16string_view::npos; open = text.find(u'{', open + 1)) {
             const std::size_t close = text.find(u'}', open);
+            if (!StartsWithLowerCase(text.substr(open + 1))) throw std::invalid_argument("list entry");
             table.Add(text.substr(open + 1, close - open - 1), static_cast<unsigned char>(BracedListBits[list]));
         }
     }
     return table;
 }();
 
-unsigned ListsHoldingBySubstring(std::u16string_view name) {
+// Out of line, so that the common lookup saves no registers for it.
+[[gnu::noinline]] unsigned ListsHoldingBySubstring(std::u16string_view name) {
+    if (!HasListPunctuation(name)) return 0;
     unsigned lists = 0;
     for (std::size_t list = 0; list < std::size(BracedLists); ++list) {
         if (InBracedList(name, BracedLists[list])) lists |= BracedListBits[list];
@@ -51,12 +60,9 @@ unsigned ListsHoldingBySubstring(std::u16string_view name) {
 bool IsConstantName(std::u16string_view name) { return (ListsHolding(name) & ConstantBit) != 0; }
 
 unsigned ListsHolding(std::u16string_view name) {
+    if (!StartsWithLowerCase(name)) return 0;
     if (const unsigned char* lists = ListEntries.Find(name)) return *lists;
-    return HasListPunctuation(name) ? ListsHoldingBySubstring(name) : 0;
-}
-
-bool InCustomFunctionNames(const EngineState& state, std::u16string_view name) {
-    return !state.CustomFunctionNames.empty() && InBracedList(name, state.CustomFunctionNames);
+    return ListsHoldingBySubstring(name);
 }
 
 bool InBracedList(std::u16string_view name, std::u16string_view list) {

@@ -67,16 +67,15 @@ inline bool IsOperatorText(std::u16string_view text) {
 bool IsConstantName(std::u16string_view name);
 
 // A-Z, a-z and _
-inline bool IsLetterChar(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u'_'; }
+constexpr bool IsLetterChar(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u'_'; }
 // 0-9 and the point
-inline bool IsDigitChar(char16_t c) { return (c >= u'0' && c <= u'9') || c == u'.'; }
+constexpr bool IsDigitChar(char16_t c) { return (c >= u'0' && c <= u'9') || c == u'.'; }
 // The delimiter list, tab, NUL, LF, CR; not the blank. All of them are below 128.
-inline bool IsDelimiterChar(char16_t c) {
-    constexpr unsigned long long Low = (1ULL << u'\0') | (1ULL << u'\t') | (1ULL << u'\n') | (1ULL << u'\r') |
-                                       (1ULL << u'!') | (1ULL << u'%') | (1ULL << u'&') | (1ULL << u'(') |
-                                       (1ULL << u')') | (1ULL << u'*') | (1ULL << u'+') | (1ULL << u',') |
-                                       (1ULL << u'-') | (1ULL << u'/') | (1ULL << u'<') | (1ULL << u'=') |
-                                       (1ULL << u'>');
+constexpr bool IsDelimiterChar(char16_t c) {
+    constexpr unsigned long long Low =
+        (1ULL << u'\0') | (1ULL << u'\t') | (1ULL << u'\n') | (1ULL << u'\r') | (1ULL << u'!') | (1ULL << u'%') |
+        (1ULL << u'&') | (1ULL << u'(') | (1ULL << u')') | (1ULL << u'*') | (1ULL << u'+') | (1ULL << u',') |
+        (1ULL << u'-') | (1ULL << u'/') | (1ULL << u'<') | (1ULL << u'=') | (1ULL << u'>');
     constexpr unsigned long long High =
         (1ULL << (u'\\' - 64)) | (1ULL << (u'^' - 64)) | (1ULL << (u'|' - 64)) | (1ULL << (u'~' - 64));
     if (c < 64) return (Low >> c) & 1;
@@ -93,7 +92,9 @@ enum NameListBit : unsigned {
 unsigned ListsHolding(std::u16string_view name);
 inline bool IsBuiltinOrAlias(unsigned lists) { return (lists & (BuiltinFunctionBit | AliasBit)) != 0; }
 // In the custom function names, as given.
-bool InCustomFunctionNames(const EngineState& state, std::u16string_view name);
+inline bool InCustomFunctionNames(const EngineState& state, std::u16string_view name) {
+    return !state.CustomFunctionNames.empty() && InBracedList(name, state.CustomFunctionNames);
+}
 
 // Custom, built-in or alias name, as given (no trimming).
 bool IsFunctionName(const EngineState& state, std::u16string_view name);

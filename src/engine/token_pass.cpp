@@ -1,3 +1,4 @@
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -47,11 +48,66 @@ enum class Verdict { Keep, Replace, Stop };
 struct TokenCheck {
     Verdict verdict = Verdict::Keep;
     std::u16string_view replacement;
+    bool checkReplacement = false;  // whether the scan goes on at the replacement or behind it
 };
 
 TokenCheck Stop(EngineState& state, int error) {
     state.ReportError(error);
     return {Verdict::Stop, {}};
+}
+
+// What the checks need to know of the characters of a token, gathered while
+// the token is scanned, so that no check walks the token again.
+enum CharBit : unsigned {
+    DelimiterBit = 1,
+    BlankBit = 2,
+    DollarBit = 4,
+    PlainLetterBit = 8,  // A-Z, a-z
+    UnderscoreBit = 16,
+    DecimalDigitBit = 32,
+    PointBit = 64,
+    OtherCharBit = 128,
+};
+
+constexpr unsigned ClassOf(char16_t c) {
+    if (IsDelimiterChar(c)) return DelimiterBit;
+    if (c == u' ') return BlankBit;
+    if (c == u'$') return DollarBit;
+    if (c == u'_') return UnderscoreBit;
+    if (c == u'.') return PointBit;
+    if (IsLetterChar(c)) return PlainLetterBit;
+    if (IsDigitChar(c)) return DecimalDigitBit;
+    return OtherCharBit;
+}
+
+constexpr auto AsciiClasses = [] {
+    std::array<unsigned char, 128> classes{};
+    for (char16_t c = 0; c < classes.size(); ++c) classes[c] = static_cast<unsigned char>(ClassOf(c));
+    return classes;
+}();
+
+unsigned CharBits(char16_t c) { return c < AsciiClasses.size() ? AsciiClasses[c] : unsigned{OtherCharBit}; }
+
+// The token at the front of the unread text: its length and the bits of its characters.
+struct TokenScan {
+    std::size_t length = 0;
+    unsigned bits = 0;
+};
+
+std::size_t DelimiterRun(std::u16string_view ahead) {
+    std::size_t length = 0;
+    while (length < ahead.size() && (CharBits(ahead[length]) & DelimiterBit) != 0) ++length;
+    return length;
+}
+
+TokenScan ScanToken(std::u16string_view ahead) {
+    TokenScan scan;
+    for (; scan.length < ahead.size(); ++scan.length) {
+        const unsigned bits = CharBits(ahead[scan.length]);
+        if ((bits & DelimiterBit) != 0) break;
+        scan.bits |= bits;
+    }
+    return scan;
 }
 
 // The token of `length` characters at the front of `ahead`, the unread text.
@@ -74,66 +130,74 @@ struct TokenContext {
     }
 };
 
-bool IsValidName(std::u16string_view t) {
-    bool hasLetter = false;
-    for (const char16_t c : t) {
-        if (c == u'.' || !(IsLetterChar(c) || IsDigitChar(c))) return false;
-        hasLetter = hasLetter || (c != u'_' && IsLetterChar(c));
-    }
-    return hasLetter;
+// Digits alone make a number, and any number text starts with a digit or a
+// point, so most tokens skip the full test. A base literal is converted,
+// which reports its own errors.
+bool IsNumberToken(EngineState& state, std::u16string_view t, unsigned bits) {
+    if ((bits & DollarBit) != 0) return IsNumericText(BaseLiteralToDecimal(t, state));
+    if ((bits & ~BlankBit) == DecimalDigitBit) return true;
+    return IsDigitChar(t[0]) && IsNumericText(t);
 }
 
-bool IsNumberToken(EngineState& state, std::u16string_view t) {
-    return ContainsText(u"$", t) ? IsNumericText(BaseLiteralToDecimal(t, state)) : IsNumericText(t);
+// Letters, digits and underscores only, with a letter that is not the
+// underscore. The blanks among the bits are those trimmed off.
+bool IsValidName(unsigned bits) {
+    return (bits & (PointBit | DollarBit | OtherCharBit)) == 0 && (bits & PlainLetterBit) != 0;
 }
 
-// `t` is the token without its blanks. The lists are looked up once per token.
-TokenCheck CheckToken(EngineState& state, const TokenContext& context, std::u16string_view t) {
+// `t` is the token without its blanks, `bits` those of the whole token.
+TokenCheck CheckToken(EngineState& state, const TokenContext& context, std::u16string_view t, unsigned bits) {
     if (t.empty()) return {};
     const unsigned lists = ListsHolding(t);
-    const bool function = IsBuiltinOrAlias(lists) || InCustomFunctionNames(state, t);
+    const bool custom = InCustomFunctionNames(state, t);
+    const bool function = custom || IsBuiltinOrAlias(lists);
     if (context.AssignsAtEnd() && (function || lists != 0)) {
         return Stop(state, (lists & ConstantBit) != 0 ? ConstantAssignment : FunctionAssignment);
     }
     if (!function && context.BracketAround()) return Stop(state, SyntaxError);
-    if (t.find(u' ') != std::u16string_view::npos) return Stop(state, InvalidName);
-    if (IsNumberToken(state, t)) return {};
-    if (!IsValidName(t)) return Stop(state, InvalidName);
-    if (const std::u16string_view* replacement = Replacements.Find(t)) return {Verdict::Replace, *replacement};
+    if ((bits & BlankBit) != 0 && t.find(u' ') != std::u16string_view::npos) return Stop(state, InvalidName);
+    if (IsNumberToken(state, t, bits)) return {};
+    if (!IsValidName(bits)) return Stop(state, InvalidName);
+    if (const std::u16string_view* replacement = Replacements.Find(t)) return {Verdict::Replace, *replacement, custom};
     if (IsDigitChar(t[0])) return Stop(state, UndefinedName);
     return {};
 }
 
-std::size_t RunLength(std::u16string_view text, bool delimiters) {
-    std::size_t length = 0;
-    while (length < text.size() && IsDelimiterChar(text[length]) == delimiters) ++length;
-    return length;
+// Most tokens have no blanks around them.
+std::u16string_view WithoutBlanks(std::u16string_view token, unsigned bits) {
+    return (bits & BlankBit) != 0 ? TrimBlanks(token) : token;
 }
 
 }  // namespace
 
 // A replacement sends the scan back to the first character. Tokens in front
 // of the replaced one end at a delimiter that the replacement does not touch,
-// so they read and check as before; the scan therefore goes on at the
-// replacement itself, which is checked like any other text.
+// so they read and check as before. The replacement text itself mostly passes
+// the checks in the place of the token it replaces, and none of its tokens is
+// replaced again, so the scan goes on behind it: its names are functions, and
+// a call of one was no error for the alias either, while an assignment to the
+// alias already stopped the pass; its numbers stand between delimiters that
+// make them neither calls nor factors behind a bracket, or a lone number takes
+// the place of a constant, which faced the same brackets as a non-function.
+// A constant that is also a custom function name faced no brackets, so the
+// scan goes on at its replacement.
 bool RunTokenPass(EngineState& state, std::u16string& src) {
     SpliceText text(src);
-    while (text.Remaining() > 0) {
+    while (true) {
+        text.Advance(DelimiterRun(text.Ahead()));
+        if (text.Remaining() == 0) return true;
         const std::u16string_view ahead = text.Ahead();
-        if (const std::size_t delimiters = RunLength(ahead, true); delimiters > 0) {
-            text.Advance(delimiters);
-            continue;
-        }
-        const std::size_t length = RunLength(ahead, false);
-        const TokenCheck check = CheckToken(state, TokenContext{text, ahead, length}, TrimBlanks(ahead.substr(0, length)));
+        const TokenScan token = ScanToken(ahead);
+        const std::u16string_view t = WithoutBlanks(ahead.substr(0, token.length), token.bits);
+        const TokenCheck check = CheckToken(state, TokenContext{text, ahead, token.length}, t, token.bits);
         if (check.verdict == Verdict::Stop) return false;
         if (check.verdict == Verdict::Replace) {
-            text.ReplaceAhead(length, check.replacement);
+            text.ReplaceAhead(token.length, check.replacement);
+            if (!check.checkReplacement) text.Advance(check.replacement.size());
         } else {
-            text.Advance(length);
+            text.Advance(token.length);
         }
     }
-    return true;
 }
 
 }  // namespace tessarondel

@@ -98,6 +98,35 @@ const StreamRow kStreamRows[] = {
 INSTANTIATE_TEST_SUITE_P(Rows, TokenStreamRows, testing::ValuesIn(kStreamRows),
                          [](const auto& info) { return std::string(info.param.name); });
 
+// Constants and aliases that are also custom function names, which only the
+// name list of the state can make them: the replacement is checked where it
+// stands, so a number in the place of a constant still faces the brackets.
+struct CustomNamedRow {
+    const char* name;
+    const char* text;
+    const char* rewritten;  // "" after an error that stops the pass
+    int error = -1;
+};
+
+TEST(TokenPass, ReplacementsOfCustomNamesAreCheckedInPlace) {
+    const CustomNamedRow rows[] = {
+        {"NumberBehindBracket", ")e", "", 0},
+        {"NumberBeforeBracket", "e(2)", "", 0},
+        {"ConstantAtStart", "pi+1", "3.14159265358979+1"},
+        {"AliasCall", "tg(1)", "tan(1)"},
+        {"TrueInBrackets", "2*true", "2*(-1)"},
+    };
+    for (const CustomNamedRow& row : rows) {
+        SCOPED_TRACE(row.name);
+        EngineState state;
+        state.CustomFunctionNames = u"{e}{pi}{tg}{true}";
+        std::u16string text = ToUtf16(row.text);
+        const bool completed = RunTokenPass(state, text);
+        EXPECT_EQ(completed ? ToUtf8(text) : "", row.rewritten);
+        EXPECT_EQ(state.ErrorFlag ? state.ErrorNumber : -1, row.error);
+    }
+}
+
 TEST(ExponentScan, StopsAtTheFirstBadLiteralWithEarlierRewritesKept) {
     EngineState state;
     std::u16string src = u" 1e2+3e+x ";
