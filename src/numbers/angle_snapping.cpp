@@ -1,13 +1,9 @@
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <system_error>
 
 #include "numbers/builtins.h"
 #include "numbers/numeric_helpers.h"
 #include "numbers/primitives.h"
-#include "numbers/run_failure.h"
 
 namespace tessarondel {
 
@@ -38,20 +34,6 @@ bool IsPolePositive(double x, double turnLimit) {
 }
 
 }  // namespace
-
-// The value of DisplayNumberText(x) read back, without the detour through the
-// display's layout: the same 15 digits, rounded from the exact double.
-double FifteenDigitCopy(double x) {
-    if (x == 0) return 0.0;  // the text of -0 is "0"
-    std::array<char, 32> buffer{};
-    const auto written =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), x, std::chars_format::scientific, 14);
-    double copy = 0;
-    const auto parsed = std::from_chars(buffer.data(), written.ptr, copy);
-    if (parsed.ec == std::errc()) return copy;
-    if (std::abs(x) > 1) throw OverflowFailure();  // 1.79769313486232E+308 lies beyond the range
-    return x < 0 ? -0.0 : 0.0;                     // too small for a double: zero, as the reading gives
-}
 
 bool IsPiMultiple(double x) {
     const std::int32_t m = SnappedQuarterTurns(x);

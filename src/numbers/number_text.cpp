@@ -117,17 +117,27 @@ void WriteDigits(std::uint64_t n, int count, char16_t* out) {
     if (count == 1) out[0] = static_cast<char16_t>(u'0' + n);
 }
 
-// The usual result, a normal x from about 1E-13 up to 1E+15, rounded to 15
+constexpr int MaxExactPowerOfTen = 22;  // 10^22 is the largest power of ten that is a double exactly
+
+constexpr std::array<double, MaxExactPowerOfTen + 1> PowersOfTen = [] {
+    std::array<double, MaxExactPowerOfTen + 1> powers{};
+    powers[0] = 1;
+    for (std::size_t k = 1; k < powers.size(); ++k) powers[k] = powers[k - 1] * 10;
+    return powers;
+}();
+
+// The usual value, a normal x from about 1E-13 up to 1E+15, rounded to 15
 // digits in integer arithmetic: the 15 leading digits of |x| are the integer
 // part of |x| * 10^scale for the one scale that puts it in [10^14, 10^15),
-// rounded half to even on the exact remainder. False for any other x.
-bool RoundQuickly(double x, RoundedDecimal& result) {
+// rounded half to even on the exact remainder. |x| rounded is then
+// digits / 10^scale. False for any other x.
+bool RoundToFifteenDigits(double x, std::uint64_t& digits, int& scale) {
     const auto bits = std::bit_cast<std::uint64_t>(x);
     const int biasedExponent = static_cast<int>((bits >> 52) & 0x7FF);
     const int binaryPower = biasedExponent - 1023;  // 2^binaryPower <= |x| < 2^(binaryPower + 1)
     if (biasedExponent == 0 || binaryPower > 49) return false;
     const int lowerPowerOfTen = (binaryPower * 78913) >> 18;  // floor(binaryPower * log10(2)); |x| >= 10^this
-    int scale = 14 - lowerPowerOfTen;
+    scale = 14 - lowerPowerOfTen;
     if (scale > MaxQuickScale) return false;
     const std::uint64_t mantissa = (bits & ((std::uint64_t{1} << 52) - 1)) | (std::uint64_t{1} << 52);
     const int binaryExponent = binaryPower - 52;
@@ -136,12 +146,19 @@ bool RoundQuickly(double x, RoundedDecimal& result) {
         if (scale == 0) return false;
         scaled = ScaleExactly(mantissa, binaryExponent, --scale);
     }
-    std::uint64_t digits = scaled.whole;
+    digits = scaled.whole;
     if (scaled.remainderAgainstHalf > 0 || (scaled.remainderAgainstHalf == 0 && (digits & 1) != 0)) ++digits;
     if (digits == TenToThe15) {  // 9.99...95 rounds up to the next power of ten
         digits = TenToThe14;
         --scale;
     }
+    return true;
+}
+
+bool RoundQuickly(double x, RoundedDecimal& result) {
+    std::uint64_t digits = 0;
+    int scale = 0;
+    if (!RoundToFifteenDigits(x, digits, scale)) return false;
     result.negative = x < 0;
     result.exponent = 14 - scale;
     result.count = StripTrailingZeros(digits);
@@ -279,15 +296,6 @@ double ParseNumericText(std::u16string_view t, bool negative) {
     return ParseDecimal(std::string_view(buffer.data(), n));
 }
 
-constexpr int MaxExactPowerOfTen = 22;  // 10^22 is the largest power of ten that is a double exactly
-
-constexpr std::array<double, MaxExactPowerOfTen + 1> PowersOfTen = [] {
-    std::array<double, MaxExactPowerOfTen + 1> powers{};
-    powers[0] = 1;
-    for (std::size_t k = 1; k < powers.size(); ++k) powers[k] = powers[k - 1] * 10;
-    return powers;
-}();
-
 // Appends the digit run at i to digits; returns its length.
 std::size_t AppendDigits(std::u16string_view t, std::size_t& i, std::uint64_t& digits) {
     const std::size_t start = i;
@@ -356,6 +364,26 @@ bool ReadQuickly(std::u16string_view t, bool negative, double& value) {
 std::u16string NumberText(double x) { return FormatRounded(x, false, true); }
 
 std::u16string DisplayNumberText(double x) { return FormatRounded(x, true, false); }
+
+double FifteenDigitCopy(double x) {
+    if (x == 0) return 0.0;  // the text of -0 is "0"
+    std::uint64_t digits = 0;
+    int scale = 0;
+    // Both operands exact, so the quotient is the correctly rounded value of
+    // the decimal, which is what reading the text gives.
+    if (RoundToFifteenDigits(x, digits, scale) && scale <= MaxExactPowerOfTen) {
+        const double magnitude = static_cast<double>(digits) / PowersOfTen[static_cast<std::size_t>(scale)];
+        return x < 0 ? -magnitude : magnitude;
+    }
+    std::array<char, 32> buffer{};
+    const auto written =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), x, std::chars_format::scientific, 14);
+    double copy = 0;
+    const auto parsed = std::from_chars(buffer.data(), written.ptr, copy);
+    if (parsed.ec == std::errc()) return copy;
+    if (std::abs(x) > 1) throw OverflowFailure();  // 1.79769313486232E+308 lies beyond the range
+    return x < 0 ? -0.0 : 0.0;                     // too small for a double: zero, as the reading gives
+}
 
 bool IsNumericText(std::u16string_view t) {
     std::size_t i = DigitRun(t, 0);

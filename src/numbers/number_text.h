@@ -14,6 +14,11 @@ std::u16string NumberText(double x);
 // The text the user sees: as NumberText, but "0.5"/"-0.5" and no leading blank.
 std::u16string DisplayNumberText(double x);
 
+// The value of DisplayNumberText(x) read back, without the detour through the
+// text: x rounded to 15 significant digits from its exact value.
+// OverflowFailure when that rounding leaves the double range.
+double FifteenDigitCopy(double x);
+
 // Digits with at most one point and at least one digit, optionally followed by
 // e/d (any case), an optional sign and digits. No leading sign.
 bool IsNumericText(std::u16string_view t);

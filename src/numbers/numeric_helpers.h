@@ -3,18 +3,15 @@
 #include <optional>
 #include <string>
 
-#include "numbers/error_sink.h"
 #include "numbers/comma_texts.h"
+#include "numbers/error_sink.h"
+#include "numbers/number_text.h"
 
 namespace tessarondel {
 
 // The routines behind the built-in functions. None has a failure handler: an
 // OverflowFailure or RunFailure goes up to CallBuiltin's. Domain errors are
 // reported to `errors` and the routine returns as its row says.
-
-// x rounded to 15 significant digits, as its display text reads back;
-// OverflowFailure when that rounding leaves the double range.
-double FifteenDigitCopy(double x);
 
 // Snapping tests, judged on the 15-digit copy of x so that a value like
 // 3*pi/2 lands on the grid of quarter turns.

@@ -64,6 +64,18 @@ TEST(FifteenDigitCopy, EqualsTheDisplayTextReadBackForRandomBitPatterns) {
     }
 }
 
+// Values with a decimal look, where ties and near-ties at the 15th digit live.
+TEST(FifteenDigitCopy, EqualsTheDisplayTextReadBackForDecimalValues) {
+    std::mt19937_64 generator(7);
+    std::uniform_int_distribution<std::int64_t> digits(1, 999999999999999999);
+    std::uniform_int_distribution<int> places(-30, 20);
+    for (int i = 0; i < 20000; ++i) {
+        const double x = static_cast<double>(digits(generator)) * std::pow(10.0, places(generator) - 17);
+        ExpectSameAsTheDisplayTextRoute(i % 2 == 0 ? x : -x);
+        ExpectSameAsTheDisplayTextRoute(x / 3);
+    }
+}
+
 TEST(FifteenDigitCopy, LargestDoublesRoundBeyondTheRange) {
     const double largest = std::numeric_limits<double>::max();
     EXPECT_THROW(TextToNumber(DisplayNumberText(largest)), OverflowFailure);
