@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <utility>
 
@@ -137,7 +138,8 @@ int RunExpressions(const Options& options, const LineReader& readLine, std::ostr
             allGood = EvaluateAndPrint(engine, options, expression, out) && allGood;
         }
     } else {
-        while (const auto line = readLine()) allGood = EvaluateAndPrint(engine, options, *line, out) && allGood;
+        std::string line;
+        while (readLine(line)) allGood = EvaluateAndPrint(engine, options, line, out) && allGood;
     }
     return allGood ? CliAllGood : CliSomeFailed;
 }
@@ -147,9 +149,10 @@ int RunJson(const Options& options, const LineReader& readLine, std::ostream& ou
     LoadFunctions(session.engine, options, err);
     RequestTable table;
     RegisterAllRequests(table);
-    while (const auto line = readLine()) {
-        if (line->find_first_not_of(" \t") == std::string::npos) continue;
-        out << HandleJsonLine(session, table, *line) << '\n';
+    std::string line;
+    while (readLine(line)) {
+        if (line.find_first_not_of(" \t") == std::string::npos) continue;
+        out << HandleJsonLine(session, table, line) << '\n';
         out.flush();
     }
     return CliAllGood;
@@ -172,11 +175,10 @@ int RunCli(const std::vector<std::string>& args, const LineReader& readLine, std
 }
 
 LineReader StreamLineReader(std::istream& in) {
-    return [&in]() -> std::optional<std::string> {
-        std::string line;
-        if (!std::getline(in, line)) return std::nullopt;
+    return [&in](std::string& line) {
+        if (!std::getline(in, line)) return false;
         if (!line.empty() && line.back() == '\r') line.pop_back();  // a CR LF line end
-        return line;
+        return true;
     };
 }
 

@@ -2,15 +2,15 @@
 
 #include <functional>
 #include <iosfwd>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace tessarondel {
 
-// Gives the next input line without its line end, or nullopt at the end. A
-// reader on a terminal flushes the output before it waits for the user.
-using LineReader = std::function<std::optional<std::string>()>;
+// Puts the next input line without its line end into its argument; false at
+// the end. A reader on a terminal flushes the output before it waits for the
+// user.
+using LineReader = std::function<bool(std::string&)>;
 
 // Exit statuses of tessarondel-cli.
 enum CliStatus : int { CliAllGood = 0, CliSomeFailed = 1, CliBadUsage = 2 };

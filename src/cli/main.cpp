@@ -16,21 +16,21 @@ namespace {
 tessarondel::LineReader TerminalLineReader() {
 #ifdef TESSARONDEL_HAVE_EDITLINE
     if (isatty(STDIN_FILENO)) {
-        return []() -> std::optional<std::string> {
+        return [](std::string& text) {
             std::cout.flush();
             char* line = readline("> ");
-            if (!line) return std::nullopt;
-            std::string text(line);
+            if (!line) return false;
+            text = line;
             if (!text.empty()) add_history(line);
             std::free(line);
-            return text;
+            return true;
         };
     }
 #endif
     if (isatty(STDIN_FILENO)) {
-        return [reader = tessarondel::StreamLineReader(std::cin)]() {
+        return [reader = tessarondel::StreamLineReader(std::cin)](std::string& line) {
             std::cout.flush();
-            return reader();
+            return reader(line);
         };
     }
     return tessarondel::StreamLineReader(std::cin);

@@ -65,13 +65,17 @@ unsigned ListsHolding(std::u16string_view name) {
     return ListsHoldingBySubstring(name);
 }
 
-bool InBracedList(std::u16string_view name, std::u16string_view list) {
-    if (name.empty()) return ContainsText(u"{}", list);
+std::size_t FindBracedName(std::u16string_view name, std::u16string_view list) {
+    if (name.empty()) return list.find(u"{}");
     // Each match of the name must have "{" before it and "}" behind it.
     for (std::size_t at = list.find(name, 1); at != std::u16string_view::npos; at = list.find(name, at + 1)) {
-        if (list[at - 1] == u'{' && at + name.size() < list.size() && list[at + name.size()] == u'}') return true;
+        if (list[at - 1] == u'{' && at + name.size() < list.size() && list[at + name.size()] == u'}') return at - 1;
     }
-    return false;
+    return std::u16string_view::npos;
+}
+
+bool InBracedList(std::u16string_view name, std::u16string_view list) {
+    return FindBracedName(name, list) != std::u16string_view::npos;
 }
 
 bool IsFunctionName(const EngineState& state, std::u16string_view name) {

@@ -30,6 +30,8 @@ inline bool ContainsText(std::u16string_view needle, std::u16string_view haystac
 
 // "{name}" in `list`, without building the braced text.
 bool InBracedList(std::u16string_view name, std::u16string_view list);
+// Where "{name}" first occurs in `list`; npos when nowhere.
+std::size_t FindBracedName(std::u16string_view name, std::u16string_view list);
 
 // The reader's operators: one or two characters, none of them a brace, so the
 // list's entries are exactly these; other texts take the list's own rule.

@@ -46,6 +46,10 @@ std::u16string ToUtf16(std::string_view utf8) {
     std::u16string out(utf8.size(), u'\0');
     std::size_t n = 0;
     for (std::size_t i = 0; i < utf8.size();) {
+        if (static_cast<unsigned char>(utf8[i]) < 0x80) {
+            out[n++] = static_cast<char16_t>(utf8[i++]);
+            continue;
+        }
         char32_t cp = 0;
         const std::size_t length = DecodeOne(utf8, i, cp);
         if (length == 0) {

@@ -29,7 +29,7 @@ bool VariableExists(const EngineState& state, std::u16string_view name) {
 
 std::int32_t VariableIndex(EngineState& state, std::u16string_view name) {
     // VariableNames holds lower-case names only (AddVariable lowers them).
-    const std::size_t at = state.VariableNames.find(Braced(TrimBlanks(name)));
+    const std::size_t at = FindBracedName(TrimBlanks(name), state.VariableNames);
     if (at == std::u16string::npos || at == 0) return 1;
     return CountChar(state, std::u16string_view(state.VariableNames).substr(0, at), u'}') + 1;
 }
