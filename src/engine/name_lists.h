@@ -35,7 +35,7 @@ std::size_t FindBracedName(std::u16string_view name, std::u16string_view list);
 
 // The reader's operators: one or two characters, none of them a brace, so the
 // list's entries are exactly these; other texts take the list's own rule.
-inline bool IsOperatorText(std::u16string_view text) {
+constexpr bool IsOperatorText(std::u16string_view text) {
     if (text.size() == 1) {
         switch (text[0]) {
             case u'=':

@@ -38,6 +38,9 @@ char16_t FoldChar(char16_t c) {
 // target is the source of another, so one pass over the characters gives what
 // the 98 whole-text replacements in their order give.
 void FoldSource(std::u16string& text) {
+    bool any = false;  // nearly every text is plain: test it in one quick pass
+    for (const char16_t c : text) any |= c >= 0x2018;
+    if (!any) return;
     for (char16_t& c : text) c = FoldChar(c);
 }
 

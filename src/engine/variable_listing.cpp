@@ -5,17 +5,19 @@
 
 namespace tessarondel {
 
-void VariableListingText::Take(const std::vector<VariableSlot>& table) {
+void VariableListingText::Take(std::u16string_view names, const std::vector<VariableSlot>& table) {
     const std::size_t count = table.empty() ? 0 : table.size() - 1;  // slot 0 is never used
-    bool changed = lines_.size() != count;
-    lines_.resize(count);
+    bool changed = false;
+    if (lines_.size() != count || names != names_) {
+        names_ = names;
+        lines_.resize(count);
+        for (std::size_t i = 0; i < count; ++i) lines_[i].name = table[i + 1].name;
+        changed = true;
+    }
     for (std::size_t i = 0; i < count; ++i) {
-        const VariableSlot& slot = table[i + 1];
-        Line& line = lines_[i];
         // Equal values have equal texts; 0 and -0 both list as 0.
-        if (line.name != slot.name || line.value != slot.value) {
-            line.name = slot.name;
-            line.value = slot.value;
+        if (lines_[i].value != table[i + 1].value) {
+            lines_[i].value = table[i + 1].value;
             changed = true;
         }
     }

@@ -13,7 +13,8 @@ struct VariableSlot;
 // and the lines are written when the text is read.
 class VariableListingText {
 public:
-    void Take(const std::vector<VariableSlot>& table);
+    // `names` is the braced list of the table's names, which changes with them.
+    void Take(std::u16string_view names, const std::vector<VariableSlot>& table);
     const std::u16string& Text() const;
 
 private:
@@ -21,6 +22,7 @@ private:
         std::u16string name;
         double value = 0.0;
     };
+    std::u16string names_;
     std::vector<Line> lines_;
     mutable std::u16string text_;
     mutable bool textPending_ = false;

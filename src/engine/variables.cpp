@@ -63,6 +63,6 @@ int GetVariableSnapshot(EngineState& state, std::vector<VariableRecord>& list) {
     return static_cast<int>(count);
 }
 
-void BuildVariableListing(EngineState& state) { state.VariableListing.Take(state.VariableTable); }
+void BuildVariableListing(EngineState& state) { state.VariableListing.Take(state.VariableNames, state.VariableTable); }
 
 }  // namespace tessarondel
