@@ -68,7 +68,7 @@ bool IsReadToTheEnd(std::u16string_view text) {
         return readable;
     }();
     bool all = true;  // without an early exit the test vectorises
-    for (const char16_t c : text) all &= c < 128 && Readable[c];
+    for (const char16_t c : text) all &= (c < 128) & Readable[c & 127];
     return all;
 }
 

@@ -15,7 +15,7 @@ namespace {
 // Tabs, and CR LF pairs, become one blank each; a lone CR or LF stays.
 void BlankTabsAndLineEnds(std::u16string& src) {
     bool any = false;  // without an early exit the test vectorises
-    for (const char16_t c : src) any |= c == u'\t' || c == u'\r';
+    for (const char16_t c : src) any |= (c == u'\t') | (c == u'\r');
     if (!any) return;
     std::size_t out = 0;
     for (std::size_t i = 0; i < src.size(); ++i) {
@@ -86,17 +86,20 @@ bool RewriteAndCheck(EngineState& state, std::u16string& src) {
 }  // namespace
 
 void ReplacePercentSigns(std::u16string& src) {
-    if (src.find(u'%') == std::u16string::npos) return;
-    std::u16string out;
-    out.reserve(src.size() + 16);
-    for (const char16_t c : src) {
-        if (c == u'%') {
-            out += u"*(0.01)";
+    constexpr std::u16string_view Hundredth = u"*(0.01)";
+    const auto signs = static_cast<std::size_t>(std::count(src.begin(), src.end(), u'%'));
+    if (signs == 0) return;
+    // From the back, as the sign zeros are inserted.
+    std::size_t out = src.size() + signs * (Hundredth.size() - 1);
+    src.resize(out);
+    for (std::size_t i = out - signs * (Hundredth.size() - 1); i-- > 0;) {
+        if (src[i] == u'%') {
+            out -= Hundredth.size();
+            std::copy(Hundredth.begin(), Hundredth.end(), src.begin() + static_cast<std::ptrdiff_t>(out));
         } else {
-            out += c;
+            src[--out] = src[i];
         }
     }
-    src = std::move(out);
 }
 
 // A replacement sends the scan back to the start; the words in front of it are

@@ -1,5 +1,7 @@
 #include "engine/variables.h"
 
+#include <algorithm>
+
 #include "engine/engine.h"
 #include "engine/errors.h"
 #include "engine/name_lists.h"
@@ -24,7 +26,12 @@ bool NoVariables(const EngineState& state) { return TrimBlanks(state.VariableNam
 }  // namespace
 
 bool VariableExists(const EngineState& state, std::u16string_view name) {
-    return InBracedList(AsciiLower(TrimBlanks(name)), state.VariableNames);
+    const std::u16string_view trimmed = TrimBlanks(name);
+    // The reader's names come lower-cased already; only others need a copy.
+    if (std::none_of(trimmed.begin(), trimmed.end(), [](char16_t c) { return c >= u'A' && c <= u'Z'; })) {
+        return InBracedList(trimmed, state.VariableNames);
+    }
+    return InBracedList(AsciiLower(trimmed), state.VariableNames);
 }
 
 std::int32_t VariableIndex(EngineState& state, std::u16string_view name) {

@@ -154,6 +154,34 @@ TEST(FoldSource, FoldsFullWidthFormsAndQuotes) {
     EXPECT_EQ(text, u"Az09() '\"._\u00E9");
 }
 
+// Both rewrite in place from the back; every sign and every character moves once.
+TEST(TextRewrites, PercentSignsAndSignZeros) {
+    struct Row {
+        const char16_t* text;
+        const char16_t* percent;
+        const char16_t* signs;
+    };
+    const Row rows[] = {
+        {u"", u"", u""},
+        {u"50%", u"50*(0.01)", u"50%"},
+        {u"%%", u"*(0.01)*(0.01)", u"%%"},
+        {u"-2%+(-3)", u"-2*(0.01)+(-3)", u"0-2%+(0-3)"},
+        {u"--3", u"--3", u"0--3"},
+        {u"( -3)", u"( -3)", u"( -3)"},
+        {u"(+(-1))", u"(+(-1))", u"(0+(0-1))"},
+        {u"1-2", u"1-2", u"1-2"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(ToUtf8(row.text));
+        std::u16string percent = row.text;
+        ReplacePercentSigns(percent);
+        EXPECT_EQ(ToUtf8(percent), ToUtf8(row.percent));
+        std::u16string signs = row.text;
+        InsertSignZeros(signs);
+        EXPECT_EQ(ToUtf8(signs), ToUtf8(row.signs));
+    }
+}
+
 TEST(CountChar, OverLimitReportsOverflowAndCountsNothing) {
     EngineState state;
     EXPECT_EQ(CountChar(state, std::u16string(32767, u'('), u'('), 32767);
