@@ -106,8 +106,10 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::o
 
 // Prints the result as the main window shows it in the chosen base; false
 // when the evaluation failed. A failed base conversion leaves the decimal text.
-bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::string& expression, std::ostream& out) {
-    std::u16string text = ToUtf16(expression);
+// `text` is room for the expression, kept from line to line.
+bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::string& expression, std::u16string& text,
+                      std::ostream& out) {
+    AssignUtf16(text, expression);
     const std::u16string result = EvaluateExpression(engine, text);
     const bool good = !engine.ErrorFlag;
     if (good) {
@@ -133,13 +135,14 @@ int RunExpressions(const Options& options, const LineReader& readLine, std::ostr
     engine.ErrorBoxTitle = u"Tessarondel Error Information";
     LoadFunctions(engine, options, err);
     bool allGood = true;
+    std::u16string text;
     if (!options.expressions.empty()) {
         for (const auto& expression : options.expressions) {
-            allGood = EvaluateAndPrint(engine, options, expression, out) && allGood;
+            allGood = EvaluateAndPrint(engine, options, expression, text, out) && allGood;
         }
     } else {
         std::string line;
-        while (readLine(line)) allGood = EvaluateAndPrint(engine, options, line, out) && allGood;
+        while (readLine(line)) allGood = EvaluateAndPrint(engine, options, line, text, out) && allGood;
     }
     return allGood ? CliAllGood : CliSomeFailed;
 }

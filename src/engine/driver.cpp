@@ -49,7 +49,8 @@ std::u16string Classify(EngineState& state, double value) {
 
 // The stages after the note is cut off: token stream, first token, ladder.
 std::u16string EvaluateCode(EngineState& state, std::u16string_view code) {
-    state.TokenStream.Assign(BuildTokenStream(state, code));
+    // The last evaluation's stream is read out: its storage builds the new one.
+    state.TokenStream.Assign(BuildTokenStream(state, code, state.TokenStream.Release()));
     if (state.ErrorFlag) return Fail(state);
     ReadToken(state);
     if (state.CurrentToken.empty()) {

@@ -64,6 +64,11 @@ public:
         text_ = std::move(text);
         start_ = 0;
     }
+    // Hands over the text's storage for reuse; the stream is empty afterwards.
+    std::u16string Release() {
+        start_ = 0;
+        return std::move(text_);
+    }
     std::u16string_view Rest() const { return std::u16string_view(text_).substr(start_); }
     void Consume(std::size_t count) { start_ += count; }
     // Removes blanks at both ends of the rest.

@@ -42,8 +42,14 @@ std::size_t DecodeOne(std::string_view s, std::size_t i, char32_t& cp) {
 }  // namespace
 
 std::u16string ToUtf16(std::string_view utf8) {
+    std::u16string out;
+    AssignUtf16(out, utf8);
+    return out;
+}
+
+void AssignUtf16(std::u16string& out, std::string_view utf8) {
     // No sequence gives more 16-bit units than it has bytes.
-    std::u16string out(utf8.size(), u'\0');
+    out.resize(utf8.size());
     std::size_t n = 0;
     for (std::size_t i = 0; i < utf8.size();) {
         if (static_cast<unsigned char>(utf8[i]) < 0x80) {
@@ -67,7 +73,6 @@ std::u16string ToUtf16(std::string_view utf8) {
         i += length;
     }
     out.resize(n);
-    return out;
 }
 
 void AppendUtf8(std::string& out, char32_t cp) {

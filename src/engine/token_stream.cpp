@@ -147,10 +147,14 @@ void InsertSignZeros(std::u16string& src) {
     }
 }
 
-std::u16string BuildTokenStream(EngineState& state, std::u16string_view source) {
+std::u16string BuildTokenStream(EngineState& state, std::u16string_view source, std::u16string storage) {
     std::u16string result;
     RunWithFailureHandler(state, [&] {
-        std::u16string src = AsciiLower(source);
+        // Room for the usual growth (percent signs, constants, sign zeros) up front.
+        std::u16string src = std::move(storage);
+        src.reserve(2 * source.size() + 16);
+        src.assign(source);
+        LowerAsciiInPlace(src);
         BlankTabsAndLineEnds(src);
         src = ExpandCustomFunctionCalls(state, std::move(src));
         if (RewriteAndCheck(state, src)) result = std::move(src);

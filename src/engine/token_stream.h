@@ -10,8 +10,9 @@ namespace tessarondel {
 // Rewrites a source (folded, without its note) into the token stream: lower
 // case, custom calls expanded, exponents, percent signs, word operators,
 // constants and aliases rewritten, every token checked. Returns the empty text
-// after an error that stops it; the caller tests ErrorFlag.
-std::u16string BuildTokenStream(EngineState& state, std::u16string_view source);
+// after an error that stops it; the caller tests ErrorFlag. The stream is
+// built in `storage`, whose room is reused.
+std::u16string BuildTokenStream(EngineState& state, std::u16string_view source, std::u16string storage = {});
 
 // The passes of BuildTokenStream, in their order, rewriting in place.
 void ReplacePercentSigns(std::u16string& src);
