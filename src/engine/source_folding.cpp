@@ -1,5 +1,6 @@
 #include "engine/source_folding.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tessarondel {
@@ -38,10 +39,9 @@ char16_t FoldChar(char16_t c) {
 // target is the source of another, so one pass over the characters gives what
 // the 98 whole-text replacements in their order give.
 void FoldSource(std::u16string& text) {
-    bool any = false;  // nearly every text is plain: test it in one quick pass
-    for (const char16_t c : text) any |= c >= 0x2018;
-    if (!any) return;
-    for (char16_t& c : text) c = FoldChar(c);
+    // Nearly every text is plain: only characters from U+2018 on fold.
+    const auto first = std::find_if(text.begin(), text.end(), [](char16_t c) { return c >= 0x2018; });
+    for (auto c = first; c != text.end(); ++c) *c = FoldChar(*c);
 }
 
 }  // namespace tessarondel

@@ -1,5 +1,6 @@
 #include "engine/token_reader.h"
 
+#include <algorithm>
 #include <array>
 
 #include "engine/errors.h"
@@ -32,7 +33,7 @@ void ReadTokenUnguarded(EngineState& state, std::u16string_view& token) {
     if (shape.invalid) state.ReportError(InvalidIdentifiers);
     if (shape.length == 0) return;
     state.TokenKind = shape.kind;
-    token = rest.substr(0, shape.length);
+    token = std::u16string_view(rest.data(), shape.length);
     state.TokenStream.Consume(shape.length);  // moves the offset only: the view stays valid
     if (state.TokenKind == TokenIdentifier) {
         if (IsFunctionName(state, token)) {
@@ -50,9 +51,9 @@ TokenShape ShapeOfToken(std::u16string_view rest) {
     const char16_t c = rest[0];
     if (IsDigitChar(c)) return {NameLength(rest), TokenNumber};
     if (IsLetterChar(c)) return {NameLength(rest), TokenIdentifier};
-    if (IsOperatorText(rest.substr(0, 1))) {
+    if (IsOperatorText(std::u16string_view(rest.data(), 1))) {
         // A two-character operator counts only with a third character behind it.
-        return {rest.size() > 2 && IsOperatorText(rest.substr(0, 2)) ? 2U : 1U, TokenOperator};
+        return {rest.size() > 2 && IsOperatorText(std::u16string_view(rest.data(), 2)) ? 2U : 1U, TokenOperator};
     }
     if (rest.size() < 3) return {0, TokenNone, true};
     if (InBracedList(AsciiLower(rest.substr(0, 2)), BasePrefixList)) return {BaseLiteralLength(rest), TokenNumber};
@@ -67,9 +68,7 @@ bool IsReadToTheEnd(std::u16string_view text) {
         }
         return readable;
     }();
-    bool all = true;  // without an early exit the test vectorises
-    for (const char16_t c : text) all &= (c < 128) & Readable[c & 127];
-    return all;
+    return std::all_of(text.begin(), text.end(), [&](char16_t c) { return c < 128 && Readable[c]; });
 }
 
 void ReadToken(EngineState& state) {

@@ -14,9 +14,7 @@ namespace {
 
 // Tabs, and CR LF pairs, become one blank each; a lone CR or LF stays.
 void BlankTabsAndLineEnds(std::u16string& src) {
-    bool any = false;  // without an early exit the test vectorises
-    for (const char16_t c : src) any |= (c == u'\t') | (c == u'\r');
-    if (!any) return;
+    if (std::none_of(src.begin(), src.end(), [](char16_t c) { return c == u'\t' || c == u'\r'; })) return;
     std::size_t out = 0;
     for (std::size_t i = 0; i < src.size(); ++i) {
         const bool lineEnd = src[i] == u'\r' && i + 1 < src.size() && src[i + 1] == u'\n';
@@ -61,7 +59,7 @@ std::u16string_view WordOperatorText(std::u16string_view word) {
 }
 
 // The passes behind the custom expansion; false when one of them stops the build.
-bool RewriteAndCheck(EngineState& state, std::u16string& src) {
+bool RewriteAndCheck(EngineState& state, std::u16string& src, bool expanded) {
     ScanExponents(state, src);
     ReplacePercentSigns(src);
     ReplaceWordOperators(src);
@@ -70,7 +68,9 @@ bool RewriteAndCheck(EngineState& state, std::u16string& src) {
         return false;
     }
     if (!RunTokenPass(state, src)) return false;
-    BlankTabsAndLineEnds(src);
+    // The passes since the first blanking insert only ASCII symbols and digits;
+    // only an expanded body can bring tabs or CR LF pairs back.
+    if (expanded) BlankTabsAndLineEnds(src);
     if (CountChar(state, src, u'(') != CountChar(state, src, u')')) {
         state.ReportError(BracketsMismatch);
         return false;
@@ -156,8 +156,9 @@ std::u16string BuildTokenStream(EngineState& state, std::u16string_view source, 
         src.assign(source);
         LowerAsciiInPlace(src);
         BlankTabsAndLineEnds(src);
+        const bool expands = !state.CustomFunctionNames.empty();
         src = ExpandCustomFunctionCalls(state, std::move(src));
-        if (RewriteAndCheck(state, src)) result = std::move(src);
+        if (RewriteAndCheck(state, src, expands)) result = std::move(src);
     });
     return result;
 }
