@@ -90,7 +90,9 @@ std::u16string EvaluateExpression(EngineState& state, std::u16string& expression
 }
 
 std::u16string EvaluateText(EngineState& state, std::u16string_view expression) {
-    std::u16string copy(expression);
+    // The copy lives in the state, whose room serves the next evaluation too.
+    std::u16string& copy = state.ExpressionCopy;
+    copy.assign(expression);
     return EvaluateExpression(state, copy);
 }
 

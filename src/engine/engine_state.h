@@ -126,6 +126,7 @@ struct EngineState final : ErrorSink {
     SlotList<CustomFunctionEntry> CustomFunctionTable;
     std::u16string CustomFunctionNames;  // "{hyp}{area}"
 
+    std::u16string ExpressionCopy;  // EvaluateText's working copy of the expression
     TokenStreamText TokenStream;
     std::u16string CurrentToken;
     int TokenKind = TokenNone;
