@@ -14,16 +14,6 @@ namespace tessarondel {
 
 namespace {
 
-bool IsLogicalOperator(std::u16string_view t) {
-    return t == u"|" || t == u"&" || t == u"%!" || t == u"%~" || t == u"%>";
-}
-bool IsCompareOperator(std::u16string_view t) {
-    return t == u"==" || t == u">" || t == u"<" || t == u">=" || t == u"<=" || t == u"<>";
-}
-bool IsSumOperator(std::u16string_view t) { return t == u"+" || t == u"-"; }
-bool IsProductOperator(std::u16string_view t) { return t == u"*" || t == u"/" || t == u"%\\" || t == u"%%"; }
-bool IsPowerOperator(std::u16string_view t) { return t == u"^"; }
-
 // Leaves a nesting level on every way out, failures included.
 class DepthGuard {
 public:
@@ -57,7 +47,7 @@ void Ladder::ParseList(double& value) {
         left = value;
         ReadToken(state_);
         ParseAssignment(right);
-        ApplyOperator(state_, u",", left, right);
+        ApplyOperator(state_, BinaryOperator::Comma, left, right);
         value = left;
         openListValues_.push_back(value);
     }
@@ -65,14 +55,14 @@ void Ladder::ParseList(double& value) {
     openListValues_.resize(first);
 }
 
-template <bool (*IsOperator)(std::u16string_view), Ladder::Level Next>
+template <bool (*IsOperator)(BinaryOperator), Ladder::Level Next>
 void Ladder::ParseBinary(double& value) {
     double left = 0;
     double right = 0;
     (this->*Next)(value);
-    while (IsOperator(state_.CurrentToken)) {
+    for (BinaryOperator op = BinaryOperatorOf(state_.CurrentToken); IsOperator(op);
+         op = BinaryOperatorOf(state_.CurrentToken)) {
         left = value;
-        const std::u16string op = state_.CurrentToken;
         ReadToken(state_);
         (this->*Next)(right);
         ApplyOperator(state_, op, left, right);

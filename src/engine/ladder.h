@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "engine/engine_state.h"
+#include "engine/operators.h"
 
 namespace tessarondel {
 
@@ -35,7 +36,7 @@ public:
 private:
     using Level = void (Ladder::*)(double&);
     // The shape of the binary levels: operands from `Next`, left-associative.
-    template <bool (*IsOperator)(std::u16string_view), Level Next>
+    template <bool (*IsOperator)(BinaryOperator), Level Next>
     void ParseBinary(double& value);
 
     EngineState& state_;

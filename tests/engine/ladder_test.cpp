@@ -1,4 +1,5 @@
 #include "engine/engine_fixture.h"
+#include "engine/operators.h"
 
 namespace tessarondel {
 namespace {
@@ -129,6 +130,35 @@ TEST(AutoRounding, RunsAfterDivisionByZeroToo) {
     state.ApproximateBits = 0;
     EXPECT_EQ(testing_engine::Evaluate(state, "x=2.5/0").error, 5);
     EXPECT_EQ(testing_engine::Variables(state), (std::vector<std::pair<std::string, std::string>>{{"x", "2"}}));
+}
+
+// Each operator text belongs to exactly the level that the ladder gives it.
+TEST(BinaryOperators, TextsMapToTheirLevels) {
+    struct Row {
+        const char16_t* text;
+        const char* level;
+    };
+    const Row rows[] = {
+        {u"|", "logical"},   {u"&", "logical"},  {u"%!", "logical"}, {u"%~", "logical"}, {u"%>", "logical"},
+        {u"==", "compare"},  {u">", "compare"},  {u"<", "compare"},  {u">=", "compare"}, {u"<=", "compare"},
+        {u"<>", "compare"},  {u"+", "sum"},      {u"-", "sum"},      {u"*", "product"},  {u"/", "product"},
+        {u"%\\", "product"}, {u"%%", "product"}, {u"^", "power"},    {u",", "list"},     {u"=", "none"},
+        {u"(", "none"},      {u"%", "none"},     {u"=<", "none"},    {u"", "none"},      {u"2", "none"},
+        {u"+-", "none"},     {u"===", "none"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(ToUtf8(row.text));
+        const BinaryOperator op = BinaryOperatorOf(row.text);
+        const std::string level = IsLogicalOperator(op)         ? "logical"
+                                  : IsCompareOperator(op)       ? "compare"
+                                  : IsSumOperator(op)           ? "sum"
+                                  : IsProductOperator(op)       ? "product"
+                                  : IsPowerOperator(op)         ? "power"
+                                  : op == BinaryOperator::Comma ? "list"
+                                  : op == BinaryOperator::None  ? "none"
+                                                                : "?";
+        EXPECT_EQ(level, row.level);
+    }
 }
 
 }  // namespace
