@@ -133,8 +133,12 @@ std::u16string FractionDigits(double f, std::int32_t base, std::int32_t decimals
 std::u16string ConvertToBase(double x, std::int32_t base, std::int32_t decimals) {
     const FixedParts fixed = FixedText(TrimBlanks(NumberText(std::abs(x))), decimals);
     std::u16string text = WholeDigits(DigitsValue(fixed.whole), base);
-    if (!fixed.fraction.empty()) text += u"." + FractionDigits(DigitsValue("0." + fixed.fraction), base, decimals);
-    return x < 0 && text != u"0" ? u"-" + text : text;
+    if (!fixed.fraction.empty()) {
+        text += u'.';
+        text += FractionDigits(DigitsValue("0." + fixed.fraction), base, decimals);
+    }
+    if (x < 0 && text != u"0") text.insert(text.begin(), u'-');
+    return text;
 }
 
 }  // namespace
