@@ -12,8 +12,8 @@
 
 namespace {
 
-// On a terminal: a prompt, line editing and history.
-tessarondel::LineReader TerminalLineReader() {
+// Standard input line by line; on a terminal with a prompt, line editing and history.
+tessarondel::LineReader StandardInputReader() {
 #ifdef TESSARONDEL_HAVE_EDITLINE
     if (isatty(STDIN_FILENO)) {
         return [](std::string& text) {
@@ -27,13 +27,14 @@ tessarondel::LineReader TerminalLineReader() {
         };
     }
 #endif
-    if (isatty(STDIN_FILENO)) {
-        return [reader = tessarondel::StreamLineReader(std::cin)](std::string& line) {
-            std::cout.flush();
-            return reader(line);
-        };
-    }
-    return tessarondel::StreamLineReader(std::cin);
+    // The answers go out before the program waits for more input, which is
+    // when a person at a terminal or a program at the other end of a pipe needs
+    // them; lines already read ahead are answered without a flush each.
+    std::cin.tie(nullptr);
+    return [reader = tessarondel::StreamLineReader(std::cin)](std::string& line) {
+        if (std::cin.rdbuf()->in_avail() <= 0) std::cout.flush();
+        return reader(line);
+    };
 }
 
 }  // namespace
@@ -41,5 +42,5 @@ tessarondel::LineReader TerminalLineReader() {
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     const std::vector<std::string> args(argv + 1, argv + argc);
-    return tessarondel::RunCli(args, TerminalLineReader(), std::cout, std::cerr);
+    return tessarondel::RunCli(args, StandardInputReader(), std::cout, std::cerr);
 }
