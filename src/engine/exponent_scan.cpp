@@ -16,14 +16,14 @@ namespace {
 // from `source` at `next`.
 class ExponentScan {
 public:
-    ExponentScan(EngineState& state, std::u16string source) : state_(state), source_(std::move(source)) {
+    ExponentScan(EngineState& state, std::u16string_view source) : state_(state), source_(source) {
         done_.reserve(source_.size() + source_.size() / 2);
     }
 
     std::u16string Run() {
         while (true) {
             const std::size_t e = source_.find(u'e', next_);
-            if (e == std::u16string::npos) break;
+            if (e == std::u16string_view::npos) break;
             CopyUpTo(e);
             if (!AtExponent()) {
                 CopyUpTo(e + 1);
@@ -82,7 +82,7 @@ private:
     }
 
     EngineState& state_;
-    std::u16string source_;
+    std::u16string_view source_;
     std::u16string done_;
     std::size_t next_ = 0;
     bool dollarBehind_ = false;
