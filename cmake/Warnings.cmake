@@ -30,5 +30,6 @@ function(tessarondel_test_folder target)
     TESSARONDEL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
     TESSARONDEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   tessarondel_warnings(${target})
-  gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60)
+  # Rows carry their names in the test names; their bytes would only clutter them.
+  gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES)
 endfunction()
