@@ -58,6 +58,25 @@ std::u16string_view WordOperatorText(std::u16string_view word) {
     return {};
 }
 
+// Replaces every character for which `replacement(i)` gives a text by that
+// text, `grown` characters longer in all. From the back, so that every
+// character moves once and the text in front of the one being replaced, which
+// `replacement` may look at, is still unmoved.
+template <typename Replacement>
+void ReplaceCharactersInPlace(std::u16string& src, std::size_t grown, Replacement replacement) {
+    std::size_t out = src.size() + grown;
+    src.resize(out);
+    for (std::size_t i = out - grown; i-- > 0;) {
+        const std::u16string_view text = replacement(i);
+        if (text.empty()) {
+            src[--out] = src[i];
+            continue;
+        }
+        out -= text.size();
+        std::copy(text.begin(), text.end(), src.begin() + static_cast<std::ptrdiff_t>(out));
+    }
+}
+
 // The passes behind the custom expansion; false when one of them stops the build.
 bool RewriteAndCheck(EngineState& state, std::u16string& src, bool expanded) {
     ScanExponents(state, src);
@@ -89,17 +108,8 @@ void ReplacePercentSigns(std::u16string& src) {
     constexpr std::u16string_view Hundredth = u"*(0.01)";
     const auto signs = static_cast<std::size_t>(std::count(src.begin(), src.end(), u'%'));
     if (signs == 0) return;
-    // From the back, as the sign zeros are inserted.
-    std::size_t out = src.size() + signs * (Hundredth.size() - 1);
-    src.resize(out);
-    for (std::size_t i = out - signs * (Hundredth.size() - 1); i-- > 0;) {
-        if (src[i] == u'%') {
-            out -= Hundredth.size();
-            std::copy(Hundredth.begin(), Hundredth.end(), src.begin() + static_cast<std::ptrdiff_t>(out));
-        } else {
-            src[--out] = src[i];
-        }
-    }
+    ReplaceCharactersInPlace(src, signs * (Hundredth.size() - 1),
+                             [&](std::size_t i) { return src[i] == u'%' ? Hundredth : std::u16string_view(); });
 }
 
 // A replacement sends the scan back to the start; the words in front of it are
@@ -136,15 +146,10 @@ void InsertSignZeros(std::u16string& src) {
     std::size_t zeros = 0;
     for (std::size_t i = 0; i < src.size(); ++i) zeros += needsZero(i) ? 1 : 0;
     if (zeros == 0) return;
-    // From the back, so that every character moves once and the text in
-    // front of the one being moved is still unmoved.
-    std::size_t out = src.size() + zeros;
-    src.resize(out);
-    for (std::size_t i = out - zeros; i-- > 0;) {
-        const bool zero = needsZero(i);
-        src[--out] = src[i];
-        if (zero) src[--out] = u'0';
-    }
+    ReplaceCharactersInPlace(src, zeros, [&](std::size_t i) {
+        if (!needsZero(i)) return std::u16string_view();
+        return src[i] == u'+' ? std::u16string_view(u"0+") : std::u16string_view(u"0-");
+    });
 }
 
 std::u16string BuildTokenStream(EngineState& state, std::u16string_view source, std::u16string storage) {
