@@ -9,7 +9,6 @@
 #include "builtin_call.h"
 #include "numbers/base_conversion.h"
 #include "numbers/builtins.h"
-#include "row_name.h"
 
 namespace tessarondel {
 namespace {
@@ -23,7 +22,7 @@ struct BaseRow {
     std::int32_t base = 2;
     std::int32_t decimals = 0;
     std::string expected;
-    std::vector<int> reports;
+    std::vector<int> reports = {};
 };
 
 void PrintTo(const BaseRow& row, std::ostream* out) { *out << row.label; }
@@ -43,43 +42,35 @@ TEST_P(NumberToBase, WritesTheDigits) {
 
 INSTANTIATE_TEST_SUITE_P(
     WholeNumbers, NumberToBase,
-    ::testing::Values(BaseRow{"HexLowerCase", 255, 16, 0, "ff", {}}, BaseRow{"HexNegative", -255, 16, 0, "-ff", {}},
-                      BaseRow{"Binary", 10, 2, 0, "1010", {}}, BaseRow{"Octal", 64, 8, 0, "100", {}},
-                      BaseRow{"Zero", 0, 2, 0, "0", {}}, BaseRow{"BaseThree", 5, 3, 0, "12", {}},
-                      BaseRow{"BaseTen", 1234, 10, 0, "1234", {}},
-                      BaseRow{"Int32Range", 4294967295.0, 16, 0, "ffffffff", {}},
-                      BaseRow{"BeyondExponentForm", 1E+20, 16, 0, "56bc75e2d63100000", {}},
-                      BaseRow{"BigValueHas256HexDigits", BigValue, 16, 0, BigValueInHex(), {}},
+    ::testing::Values(BaseRow{"HexLowerCase", 255, 16, 0, "ff"}, BaseRow{"HexNegative", -255, 16, 0, "-ff"},
+                      BaseRow{"Zero", 0, 2, 0, "0"}, BaseRow{"BaseThree", 5, 3, 0, "12"},
+                      BaseRow{"BeyondExponentForm", 1E+20, 16, 0, "56bc75e2d63100000"},
+                      BaseRow{"BigValueHas256HexDigits", BigValue, 16, 0, BigValueInHex()},
                       // 2^64 - 1 becomes 18446744073709600000 first, the double nearest to that.
-                      BaseRow{"FifteenDigitsFirst", 18446744073709551615.0, 16, 0, "1000000000000c000", {}}),
+                      BaseRow{"FifteenDigitsFirst", 18446744073709551615.0, 16, 0, "1000000000000c000"}),
     testing_builtins::RowName<BaseRow>);
 
 // The fixed text rounds the 15-digit value, ties away from zero.
 INSTANTIATE_TEST_SUITE_P(FixedTextRounding, NumberToBase,
-                         ::testing::Values(BaseRow{"BelowHalfIsZero", 0.4, 2, 0, "0", {}},
-                                           BaseRow{"NegativeZeroHasNoSign", -0.4, 2, 0, "0", {}},
-                                           BaseRow{"HalfRoundsUp", 0.5, 2, 0, "1", {}},
-                                           BaseRow{"TwoAndAHalfRoundsUp", 2.5, 2, 0, "11", {}},
-                                           BaseRow{"NegativeRoundsAwayFromZero", -0.6, 2, 0, "-1", {}},
-                                           BaseRow{"FifteenDigitValueDecides", 1.4999999999999999, 2, 0, "10", {}},
-                                           BaseRow{"TinyNumberIsZero", 1E-20, 2, 0, "0", {}},
-                                           BaseRow{"CarryIntoTheWholePart", 0.999, 2, 2, "1.0", {}},
-                                           BaseRow{"CarryAddsADigit", 9.99, 10, 1, "10.0", {}}),
+                         ::testing::Values(BaseRow{"BelowHalfIsZero", 0.4, 2, 0, "0"},
+                                           BaseRow{"NegativeZeroHasNoSign", -0.4, 2, 0, "0"},
+                                           BaseRow{"HalfRoundsUp", 0.5, 2, 0, "1"},
+                                           BaseRow{"TwoAndAHalfRoundsUp", 2.5, 2, 0, "11"},
+                                           BaseRow{"NegativeRoundsAwayFromZero", -0.6, 2, 0, "-1"},
+                                           BaseRow{"FifteenDigitValueDecides", 1.4999999999999999, 2, 0, "10"},
+                                           BaseRow{"CarryIntoTheWholePart", 0.999, 2, 2, "1.0"},
+                                           BaseRow{"CarryAddsADigit", 9.99, 10, 1, "10.0"}),
                          testing_builtins::RowName<BaseRow>);
 
 // Both digit loops run at least once; the fraction is cut at the decimals.
 INSTANTIATE_TEST_SUITE_P(Fractions, NumberToBase,
-                         ::testing::Values(BaseRow{"ExactBinaryFraction", 2.625, 2, 3, "10.101", {}},
-                                           BaseRow{"FixedTextCutsFirst", 0.1, 2, 4, "0.0001", {}},
-                                           BaseRow{"TrailingZeroDigitKept", 0.3, 2, 3, "0.010", {}},
-                                           BaseRow{"TieRoundsThenDigitsAreCut", 0.125, 2, 2, "0.00", {}},
-                                           BaseRow{"ZeroFractionGivesOneDigit", 255, 16, 2, "ff.0", {}},
-                                           BaseRow{"WholeNumberWithDecimals", 2, 2, 3, "10.0", {}},
-                                           BaseRow{"TinyNumberWithDecimals", 1E-20, 2, 3, "0.0", {}},
-                                           BaseRow{"NegativeFraction", -2.625, 2, 3, "-10.101", {}},
-                                           BaseRow{"NegativeZeroFractionKeepsTheSign", -0.001, 2, 2, "-0.0", {}},
-                                           BaseRow{"LongFraction", 0.1, 2, 30, "0.000110011001100110011001100110", {}},
-                                           BaseRow{"HexFraction", 0.5, 16, 1, "0.8", {}}),
+                         ::testing::Values(BaseRow{"ExactBinaryFraction", 2.625, 2, 3, "10.101"},
+                                           BaseRow{"FixedTextCutsFirst", 0.1, 2, 4, "0.0001"},
+                                           BaseRow{"TrailingZeroDigitKept", 0.3, 2, 3, "0.010"},
+                                           BaseRow{"TieRoundsThenDigitsAreCut", 0.125, 2, 2, "0.00"},
+                                           BaseRow{"ZeroFractionGivesOneDigit", 255, 16, 2, "ff.0"},
+                                           BaseRow{"TinyNumberWithDecimals", 1E-20, 2, 3, "0.0"},
+                                           BaseRow{"NegativeZeroFractionKeepsTheSign", -0.001, 2, 2, "-0.0"}),
                          testing_builtins::RowName<BaseRow>);
 
 INSTANTIATE_TEST_SUITE_P(
@@ -103,7 +94,7 @@ TEST(BaseDigitText, WritesOneLowerCaseDigitOrNothing) {
 TEST(NumberToBase, EveryBaseRoundTripsThroughTheReader) {
     // Written digits read back to the same whole number in bases 2, 8 and 16.
     for (const std::int32_t base : {2, 8, 16}) {
-        for (const double x : {1.0, 7.0, 100.0, 65535.0, 123456789.0, 9007199254740992.0}) {
+        for (const double x : {7.0, 123456789.0, 9007199254740992.0}) {
             SCOPED_TRACE(std::to_string(base) + " " + std::to_string(x));
             RecordingSink sink;
             const std::u16string digits = NumberToBaseText(x, base, 0, sink);

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,8 +27,6 @@ public:
 struct CallOutcome {
     double value = 0;
     std::vector<int> reports;
-    // The value as the user sees it: 15 significant digits.
-    std::string Shown() const { return testing_text::Narrow(DisplayNumberText(value)); }
 };
 
 inline constexpr int RoundingOff = -1;
@@ -44,8 +46,35 @@ inline CallOutcome CallWith(std::string_view name, const std::vector<double>& ar
     return outcome;
 }
 
-inline CallOutcome Call(std::string_view name, double x, int approximateBits = RoundingOff) {
-    return CallWith(name, {x}, approximateBits);
+// Expected values are exact, or written down to 15 significant digits.
+enum class Match { Exact, FifteenDigits };
+
+struct CallRow {
+    std::string label;
+    std::string function;
+    std::vector<double> arguments;
+    double expected = 0;
+    std::vector<int> reports = {};
+    Match match = Match::Exact;
+};
+
+inline void PrintTo(const CallRow& row, std::ostream* out) { *out << row.label; }
+
+// Names parameterised tests after their row's label.
+template <typename Row>
+std::string RowName(const ::testing::TestParamInfo<Row>& info) {
+    return info.param.label;
+}
+
+inline void ExpectRow(const CallRow& row) {
+    const CallOutcome outcome = CallWith(row.function, row.arguments);
+    SCOPED_TRACE("shown as " + testing_text::Narrow(DisplayNumberText(outcome.value)));
+    if (row.match == Match::Exact) {
+        EXPECT_EQ(outcome.value, row.expected);
+    } else {
+        EXPECT_NEAR(outcome.value, row.expected, std::abs(row.expected) * 1E-14);
+    }
+    EXPECT_EQ(outcome.reports, row.reports);
 }
 
 }  // namespace tessarondel::testing_builtins

@@ -1,9 +1,10 @@
+#include "numbers/comma_texts.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "numbers/comma_texts.h"
 #include "numbers/run_failure.h"
 
 namespace tessarondel {

@@ -10,40 +10,24 @@
 namespace tessarondel {
 namespace {
 
-TEST(ToInt32, RoundsHalfToEven) {
+TEST(ToInt32, RoundsHalfToEvenWithinTheInt32Range) {
     const struct {
         double x;
         std::int32_t expected;
-    } rows[] = {{0.5, 0},
-                {1.5, 2},
-                {2.5, 2},
-                {-1.5, -2},
-                {-0.5, 0},
-                {7.5, 8},
-                {6.5, 6},
-                {2.4999, 2},
-                {-2147483648.0, INT32_MIN},
-                {2147483647.4, INT32_MAX}};
+    } rows[] = {
+        {0.5, 0}, {1.5, 2}, {2.5, 2}, {-1.5, -2}, {2.4999, 2}, {-2147483648.0, INT32_MIN}, {2147483647.4, INT32_MAX}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.x);
         EXPECT_EQ(ToInt32(row.x), row.expected);
     }
-}
-
-TEST(ToInt32, OutOfRangeIsOverflow) {
-    for (double x : {2147483647.5, 2147483648.0, -2147483648.6, 1e300}) {
-        SCOPED_TRACE(x);
-        EXPECT_THROW(ToInt32(x), OverflowFailure);
-    }
-}
-
-TEST(FloorToInt32, FloorsThenChecksTheRange) {
-    EXPECT_EQ(FloorToInt32(-0.5), -1);
-    EXPECT_EQ(FloorToInt32(2147483647.9), INT32_MAX);
-    EXPECT_THROW(FloorToInt32(-2147483648.5), OverflowFailure);
+    EXPECT_THROW(ToInt32(2147483647.5), OverflowFailure);
+    EXPECT_THROW(ToInt32(-2147483648.6), OverflowFailure);
 }
 
 TEST(FloorTruncateSign, FollowTheirDefinitions) {
+    EXPECT_EQ(FloorToInt32(-0.5), -1);
+    EXPECT_EQ(FloorToInt32(2147483647.9), INT32_MAX);
+    EXPECT_THROW(FloorToInt32(-2147483648.5), OverflowFailure);
     EXPECT_EQ(Floor(-2.5), -3);
     EXPECT_EQ(Truncate(-2.5), -2);
     EXPECT_EQ(Sign(-0.0), 0);
@@ -62,20 +46,17 @@ TEST(Power, FollowsTheRealPowerRules) {
     EXPECT_THROW(Power(0, -1), RunFailure);
 }
 
-TEST(RoundHalfEven, JudgesTiesOnTheExactDouble) {
+TEST(RoundHalfEven, JudgesTiesOnTheExactDoubleForZeroTo22Places) {
     const struct {
         double x;
         int places;
         double expected;
-    } rows[] = {{2.5, 0, 2},      {3.5, 0, 4},     {-2.5, 0, -2},      {0.125, 2, 0.12},       {0.375, 2, 0.38},
-                {2.675, 2, 2.67}, {1.005, 2, 1.0}, {3.14159, 2, 3.14}, {123.456, 22, 123.456}, {1e300, 0, 1e300}};
+    } rows[] = {{2.5, 0, 2},      {3.5, 0, 4},     {-2.5, 0, -2},          {0.125, 2, 0.12},
+                {2.675, 2, 2.67}, {1.005, 2, 1.0}, {123.456, 22, 123.456}, {1e300, 0, 1e300}};
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.x << " at " << row.places);
         EXPECT_EQ(RoundHalfEven(row.x, row.places), row.expected);
     }
-}
-
-TEST(RoundHalfEven, PlaceCountOutsideZeroToTwentyTwoFails) {
     EXPECT_THROW(RoundHalfEven(1, -1), RunFailure);
     EXPECT_THROW(RoundHalfEven(1, 23), RunFailure);
 }
