@@ -17,24 +17,19 @@ TEST_P(Classification, GivesTheResultText) { testing_engine::ExpectRow(GetParam(
 const EvaluationRow kClassificationRows[] = {
     {"EpsAloneIsZero", "eps", "0"},
     {"BelowThresholdIsZero", "1e-20", "0"},
-    {"AboveThresholdStays", "9.9e-14", "0.000000000000099"},
     {"InfConstant", "inf", "Inf"},
     {"MinusInf", "0-inf", "-Inf"},
     {"AboveTheLimit", "1.797693134862311e308", "Inf"},
-    {"SixteenDigitWhole", "2^50", "1.12589990684262E+15"},
-    {"Fraction", "1/30", "3.33333333333333E-02"},
     {"NoteOnly", "'comment", "Tessarondel Note Line"},
     {"CurlyApostropheNote",
      "\xE2\x80\x99"
      "comment",
      "Tessarondel Note Line"},
     {"NoteBehindCode", "1+1 'two", "2"},
-    {"NoteGluedToDigit", "2*3'4", "6"},
     {"NoteAcrossLines", "1+ 'x\r\n1", "Error", 0},
     {"TwoLinesJoinedByOperator", "2+\r\n3", "5"},
     {"TwoLinesWithoutOperator", "2\r\n3", "Error", 8},
     {"FullWidthSum", "\xEF\xBC\x95\xEF\xBC\x8B\xEF\xBC\x93", "8"},
-    {"FullWidthBrackets", "\xEF\xBC\x88\xEF\xBC\x91\xEF\xBC\x89", "1"},
     {"EmptyInput", "   ", "", 2},
     {"IdeographicSpacesOnly", "\xE3\x80\x80\xE3\x80\x80", "", 2},
     {"TabIsNoBlankForTheEmptyTest", "\t", "Error", 2},
@@ -114,7 +109,6 @@ TEST(ErrorMessages, CoverTheTable) {
     EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(7))), "Can not redefine the system constants!");
     EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(8))), "The identifier's name is invalid!");
     EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(12))), "Can not set value to functions!");
-    EXPECT_EQ(ToUtf8(std::u16string(ErrorMessage(99))), "Unknown error!");
     for (int unused : {13, 50, 98}) EXPECT_TRUE(ErrorMessage(unused).empty());
 }
 
@@ -138,22 +132,19 @@ TEST(CommaList, AFunctionWithoutBracketReachesTheBuiltinWithTheLastList) {
 
 std::string Nested(int depth) { return std::string(depth, '(') + "1" + std::string(depth, ')'); }
 
-TEST(DeepNesting, WorksWithinTheBound) { EXPECT_EQ(testing_engine::EvaluateFresh(Nested(900)).result, "1"); }
-
-TEST(DeepNesting, BeyondTheBoundEndsInTheDriversHandler) {
+// Deep nesting works within the bound, ends in the driver's handler beyond it, and beyond 32,767
+// characters the bracket count overflows before the ladder runs.
+TEST(DeepNesting, HasThreeBounds) {
+    EXPECT_EQ(testing_engine::EvaluateFresh(Nested(900)).result, "1");
     EngineState state = testing_engine::FreshEngine();
     Evaluate(state, "42");
     const auto outcome = Evaluate(state, Nested(16000));
     EXPECT_EQ(outcome.result, "");
     EXPECT_EQ(outcome.error, 99);
     EXPECT_EQ(state.LastAnswer, 42);
-}
-
-TEST(DeepNesting, OverlongTextFailsInTheBracketCount) {
-    // Beyond 32,767 characters the bracket count overflows before the ladder runs.
-    const auto outcome = testing_engine::EvaluateFresh(std::string(100000, '('));
-    EXPECT_EQ(outcome.result, "Error");
-    EXPECT_EQ(outcome.error, 6);
+    const auto overlong = testing_engine::EvaluateFresh(std::string(100000, '('));
+    EXPECT_EQ(overlong.result, "Error");
+    EXPECT_EQ(overlong.error, 6);
 }
 
 }  // namespace

@@ -1,5 +1,9 @@
+// The linear-time passes against the literal ones in literal_passes.cpp, on
+// generated texts: same text, same completion, same error.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
 #include <random>
 #include <string>
 #include <vector>
@@ -15,15 +19,8 @@
 namespace tessarondel {
 namespace {
 
-// Random texts glued from pieces that exercise the passes: constants, aliases,
-// word operators, exponent forms, base literals, names, brackets and blanks.
-std::u16string RandomText(std::mt19937& random, const std::vector<std::u16string>& pieces, int count) {
-    std::uniform_int_distribution<std::size_t> pick(0, pieces.size() - 1);
-    std::u16string text;
-    for (int i = 0; i < count; ++i) text += pieces[pick(random)];
-    return text;
-}
-
+// Pieces that exercise the passes: constants, aliases, word operators,
+// exponent forms, base literals, names, brackets and blanks.
 const std::vector<std::u16string> kPieces = {
     u"pi",  u"e",   u"eps", u"inf", u"true", u"false", u"tg",  u"hsin", u"permutation", u"factorial", u"sin",
     u"mod", u"and", u"or",  u"xor", u"div",  u"imp",   u"eqv", u"sand", u"_and",        u"x",         u"a1",
@@ -34,113 +31,101 @@ const std::vector<std::u16string> kPieces = {
 
 constexpr int kRounds = 4000;
 
-struct PassResult {
-    std::u16string text;
-    bool completed = true;
-    bool flag = false;
-    int number = 0;
-    bool operator==(const PassResult&) const = default;
-};
-
-TEST(LinearPasses, ExponentScanMatchesTheLiteralScan) {
-    std::mt19937 random(20261122);
-    int rewritten = 0;
+// kRounds texts of 1 to maxPieces random pieces.
+std::vector<std::u16string> RandomTexts(unsigned seed, const std::vector<std::u16string>& pieces, int maxPieces) {
+    std::mt19937 random(seed);
+    std::uniform_int_distribution<std::size_t> pick(0, pieces.size() - 1);
+    std::vector<std::u16string> texts(kRounds);
     for (int round = 0; round < kRounds; ++round) {
-        const std::u16string text = RandomText(random, kPieces, 1 + round % 24);
-        SCOPED_TRACE(ToUtf8(text));
-        EngineState linear;
-        EngineState literal;
-        std::u16string linearText = text;
-        ScanExponents(linear, linearText);
-        const std::u16string literalText = literal::ScanExponents(literal, text);
-        ASSERT_EQ(ToUtf8(linearText), ToUtf8(literalText));
-        ASSERT_EQ(linear.ErrorFlag, literal.ErrorFlag);
-        rewritten += linearText.find(u"*(10^") != std::u16string::npos ? 1 : 0;
+        for (int i = 0; i <= round % maxPieces; ++i) texts[static_cast<std::size_t>(round)] += pieces[pick(random)];
     }
-    EXPECT_GT(rewritten, kRounds / 10);
-}
-
-TEST(LinearPasses, WordOperatorPassMatchesTheRestartingPass) {
-    std::mt19937 random(7);
-    for (int round = 0; round < kRounds; ++round) {
-        const std::u16string text = RandomText(random, kPieces, 1 + round % 24);
-        SCOPED_TRACE(ToUtf8(text));
-        std::u16string linear = text;
-        ReplaceWordOperators(linear);
-        ASSERT_EQ(ToUtf8(linear), ToUtf8(literal::ReplaceWordOperators(text)));
-    }
-}
-
-// Runs the token pass and the restarting pass on each text and compares text,
-// completion and error; returns how many texts went through without error.
-int CompareTokenPasses(const std::vector<std::u16string>& texts, std::u16string_view customNames) {
-    int completed = 0;
-    for (const std::u16string& text : texts) {
-        SCOPED_TRACE(ToUtf8(text));
-        EngineState linear;
-        EngineState literal;
-        linear.CustomFunctionNames = customNames;
-        literal.CustomFunctionNames = customNames;
-        PassResult linearResult{text};
-        PassResult literalResult{text};
-        linearResult.completed = RunTokenPass(linear, linearResult.text);
-        literalResult.completed = literal::RunTokenPass(literal, literalResult.text);
-        linearResult.flag = linear.ErrorFlag;
-        linearResult.number = linear.ErrorNumber;
-        literalResult.flag = literal.ErrorFlag;
-        literalResult.number = literal.ErrorNumber;
-        if (!linearResult.completed) linearResult.text.clear();
-        if (!literalResult.completed) literalResult.text.clear();
-        EXPECT_EQ(ToUtf8(linearResult.text), ToUtf8(literalResult.text));
-        EXPECT_TRUE(linearResult == literalResult);
-        if (testing::Test::HasFailure()) break;
-        completed += linearResult.completed ? 1 : 0;
-    }
-    return completed;
-}
-
-std::vector<std::u16string> RandomTexts(std::mt19937& random, const std::vector<std::u16string>& pieces,
-                                        int maxPieces) {
-    std::vector<std::u16string> texts;
-    for (int round = 0; round < kRounds; ++round) texts.push_back(RandomText(random, pieces, 1 + round % maxPieces));
     return texts;
 }
 
-TEST(LinearPasses, TokenPassMatchesTheRestartingPass) {
-    std::mt19937 random(11);
-    const int completed = CompareTokenPasses(RandomTexts(random, kPieces, 12), u"");
-    EXPECT_GT(completed, kRounds / 10);  // the comparison covers texts that pass as well
+struct PassOutcome {
+    std::string text;  // "" when the pass stopped at an error
+    bool completed = true;
+    bool flag = false;
+    int number = 0;
+    bool operator==(const PassOutcome&) const = default;
+};
+
+using Pass = std::function<bool(EngineState&, std::u16string&)>;
+
+PassOutcome Run(const Pass& pass, std::u16string text, std::u16string_view customNames) {
+    EngineState state;
+    state.CustomFunctionNames = customNames;
+    const bool completed = pass(state, text);
+    return {completed ? ToUtf8(text) : "", completed, state.ErrorFlag, state.ErrorNumber};
 }
 
-// Every replaced name, custom function names, and tokens with braces.
-TEST(LinearPasses, TokenPassMatchesWithCustomNamesAndBracedTokens) {
+// Runs both passes on every text; returns how many linear outcomes satisfy `counted`.
+int Compare(const Pass& linear, const Pass& reference, const std::vector<std::u16string>& texts,
+            std::u16string_view customNames, const std::function<bool(const PassOutcome&)>& counted) {
+    int count = 0;
+    for (const std::u16string& text : texts) {
+        SCOPED_TRACE(ToUtf8(text));
+        const PassOutcome actual = Run(linear, text, customNames);
+        const PassOutcome expected = Run(reference, text, customNames);
+        EXPECT_EQ(actual.text, expected.text);
+        EXPECT_TRUE(actual == expected);
+        if (testing::Test::HasFailure()) break;
+        count += counted(actual) ? 1 : 0;
+    }
+    return count;
+}
+
+bool Completed(const PassOutcome& outcome) { return outcome.completed; }
+
+TEST(LinearPasses, ExponentScanMatchesTheLiteralScan) {
+    const Pass linear = [](EngineState& state, std::u16string& text) { return ScanExponents(state, text), true; };
+    const Pass literal = [](EngineState& state, std::u16string& text) {
+        return text = literal::ScanExponents(state, text), true;
+    };
+    const auto rewritten = [](const PassOutcome& outcome) { return outcome.text.find("*(10^") != std::string::npos; };
+    EXPECT_GT(Compare(linear, literal, RandomTexts(20261122, kPieces, 24), u"", rewritten), kRounds / 10);
+}
+
+TEST(LinearPasses, WordOperatorPassMatchesTheRestartingPass) {
+    const Pass linear = [](EngineState&, std::u16string& text) { return ReplaceWordOperators(text), true; };
+    const Pass literal = [](EngineState&, std::u16string& text) {
+        return text = literal::ReplaceWordOperators(text), true;
+    };
+    EXPECT_EQ(Compare(linear, literal, RandomTexts(7, kPieces, 24), u"", Completed), kRounds);
+}
+
+// The comparisons cover texts that pass as well as texts that fail.
+TEST(LinearPasses, TokenPassMatchesTheRestartingPass) {
+    EXPECT_GT(Compare(RunTokenPass, literal::RunTokenPass, RandomTexts(11, kPieces, 12), u"", Completed), kRounds / 10);
+    // Every replaced name, custom function names, and tokens with braces; then names that no custom
+    // function can take, but that the lookups must still serve.
     std::vector<std::u16string> pieces = {
         u"area",    u"f",       u"sin},{cos", u"pi},{e",  u"{",       u"}",    u"combination", u"hcos", u"htan",
         u"harcsin", u"harccos", u"harctan",   u"average", u"product", u"ator", u"rtoa",        u"max",  u"2",
     };
     pieces.insert(pieces.end(), kPieces.begin(), kPieces.end());
-    std::mt19937 random(13);
-    EXPECT_GT(CompareTokenPasses(RandomTexts(random, pieces, 10), u"{area},{f}"), kRounds / 10);
-    // Names that no custom function can take, but that the lookups must still serve.
-    EXPECT_GT(CompareTokenPasses(RandomTexts(random, pieces, 10), u"{pi}{e}{tg}{true}{eps}"), kRounds / 10);
+    EXPECT_GT(Compare(RunTokenPass, literal::RunTokenPass, RandomTexts(13, pieces, 10), u"{area},{f}", Completed),
+              kRounds / 10);
+    EXPECT_GT(
+        Compare(RunTokenPass, literal::RunTokenPass, RandomTexts(14, pieces, 10), u"{pi}{e}{tg}{true}{eps}", Completed),
+        kRounds / 10);
 }
 
 // Long texts dense with replacements, in which the text grows and shrinks
 // many times over as the pass goes along.
 TEST(LinearPasses, TokenPassMatchesOnLongTextsOfReplacements) {
-    const std::vector<std::u16string> names = {u"pi", u"e", u"eps", u"inf",  u"true",       u"false",
-                                               u"tg", u"x", u"2.5", u"$h1f", u"permutation"};
-    const std::vector<std::u16string> delimiters = {u"*", u"+", u"/", u"^", u",", u"-"};
+    const std::u16string names[] = {u"pi", u"e", u"eps", u"inf",  u"true",       u"false",
+                                    u"tg", u"x", u"2.5", u"$h1f", u"permutation"};
+    const std::u16string delimiters = u"*+/^,-";
     std::mt19937 random(17);
-    std::vector<std::u16string> texts;
-    for (int round = 0; round < 6; ++round) {
-        std::u16string text;
-        for (int piece = 0; piece < 100 + 40 * round; ++piece) {
-            text += RandomText(random, names, 1) + RandomText(random, delimiters, 1);
+    std::vector<std::u16string> texts(6);
+    for (std::size_t round = 0; round < texts.size(); ++round) {
+        for (std::size_t piece = 0; piece < 100 + 40 * round; ++piece) {
+            texts[round] += names[random() % std::size(names)] + delimiters[random() % delimiters.size()];
         }
-        texts.push_back(text + u"e");
+        texts[round] += u"e";
     }
-    EXPECT_EQ(CompareTokenPasses(texts, u""), 6);
+    EXPECT_EQ(Compare(RunTokenPass, literal::RunTokenPass, texts, u"", Completed), 6);
 }
 
 TEST(LinearPasses, FoldingMatchesTheNinetyEightReplacements) {
@@ -164,21 +149,14 @@ std::vector<std::u16string> NamesToLookUp() {
         for (std::size_t from = 0; from < list.size(); ++from) {
             for (std::size_t length = 0; length <= 14 && from + length <= list.size(); ++length) {
                 const std::u16string piece(list.substr(from, length));
-                names.push_back(piece);
-                names.push_back(AsciiUpper(piece));
-                names.push_back(piece + u" ");
+                names.insert(names.end(), {piece, AsciiUpper(piece), piece + u" "});
             }
         }
         names.emplace_back(list.substr(1, list.size() - 2));
     }
-    std::mt19937 random(19);
-    const std::u16string alphabet = u"aeinpst{},_ S";
-    std::uniform_int_distribution<std::size_t> letter(0, alphabet.size() - 1);
-    for (int round = 0; round < 10000; ++round) {
-        std::u16string name;
-        for (int i = 0; i < round % 7; ++i) name += alphabet[letter(random)];
-        names.push_back(name);
-    }
+    const std::vector<std::u16string> letters = {u"a", u"e", u"i", u"n", u"p", u"s", u"t",
+                                                 u"{", u"}", u",", u"_", u" ", u"S"};
+    for (const std::u16string& name : RandomTexts(19, letters, 7)) names.push_back(name);
     return names;
 }
 
