@@ -26,60 +26,70 @@ CliRun RunWith(const std::vector<std::string>& args, const std::string& input = 
     return run;
 }
 
-TEST(CliArguments, PrintOneLinePerExpressionInOneEngine) {
-    const CliRun run = RunWith({"x=0.5", "x*3", "'note", "0-inf", "1e400*0+inf"});
-    EXPECT_EQ(run.out, "0.5\n1.5\nTessarondel Note Line\n-Inf\nError: Overflow error!\n");
-    EXPECT_EQ(run.status, CliSomeFailed);
-}
+constexpr const char* kInvalid = "Error: The parameters of the functions or operators are invalid!\n";
 
-TEST(CliArguments, AllGoodExitsZero) {
-    const CliRun run = RunWith({"2+3", "5 MOD 3"});
-    EXPECT_EQ(run.out, "5\n2\n");
-    EXPECT_EQ(run.status, CliAllGood);
-}
-
-TEST(CliArguments, ErrorsShowTheMessage) {
-    const CliRun run = RunWith({"1/0", "", "foo(2)"});
-    EXPECT_EQ(run.out,
-              "Error: The parameters of the functions or operators are invalid!\n"
-              "Error: The expression is empty!\n"
-              "Error: Syntax error in the expression!\n");
-    EXPECT_EQ(run.status, CliSomeFailed);
-}
-
-TEST(CliArguments, LeadingMinusIsAnExpressionAndDashDashEndsOptions) {
-    EXPECT_EQ(RunWith({"-3+2"}).out, "-1\n");
-    EXPECT_EQ(RunWith({"--", "--3"}).out, "3\n");
-}
-
-TEST(CliOptions, RoundSetsTheAutoRoundingPlaces) {
-    EXPECT_EQ(RunWith({"--round", "2", "1/3"}).out, "0.33\n");
-    EXPECT_EQ(RunWith({"--round", "-1", "1/3"}).out, "0.333333333333333\n");
-    EXPECT_EQ(RunWith({"1/3"}).out, "0.333333333333333\n");
-}
-
-TEST(CliOptions, VersionAndHelp) {
-    EXPECT_EQ(RunWith({"--version"}).out, "1.2.6688 Build 1228\n");
-    const CliRun help = RunWith({"--help"});
-    EXPECT_EQ(help.status, CliAllGood);
-    EXPECT_NE(help.out.find("Usage: tessarondel-cli"), std::string::npos);
-}
-
-TEST(CliOptions, BadUsageExitsTwo) {
-    for (const auto& args : std::vector<std::vector<std::string>>{
-             {"--frobnicate"}, {"--round"}, {"--round", "x", "1"}, {"--round", "2.5", "1"}, {"--json", "1+1"}}) {
-        const CliRun run = RunWith(args);
-        EXPECT_EQ(run.status, CliBadUsage) << args[0];
-        EXPECT_TRUE(run.out.empty());
-        EXPECT_NE(run.err.find("Usage:"), std::string::npos);
+// One engine for all expressions, one line per result; the status tells whether any failed.
+TEST(Cli, PrintsOneLinePerExpression) {
+    const struct {
+        const char* label;
+        std::vector<std::string> args;
+        std::string input;
+        std::string out;
+        int status;
+    } rows[] = {
+        {"Arguments",
+         {"x=0.5", "x*3", "'note", "0-inf", "1e400*0+inf"},
+         "",
+         "0.5\n1.5\nTessarondel Note Line\n-Inf\nError: Overflow error!\n",
+         CliSomeFailed},
+        {"AllGood", {"2+3", "5 MOD 3"}, "", "5\n2\n", CliAllGood},
+        {"ErrorsShowTheMessage",
+         {"1/0", "", "foo(2)"},
+         "",
+         std::string(kInvalid) + "Error: The expression is empty!\nError: Syntax error in the expression!\n",
+         CliSomeFailed},
+        {"StandardInputLineByLine",
+         {},
+         "x=2\r\nx^10\n\n1+\n",
+         "2\n1024\nError: The expression is empty!\nError: Syntax error in the expression!\n",
+         CliSomeFailed},
+        {"LeadingMinusIsAnExpression", {"-3+2"}, "", "-1\n", CliAllGood},
+        {"DashDashEndsOptions", {"--", "--3"}, "", "3\n", CliAllGood},
+        {"RoundSetsThePlaces", {"--round", "2", "1/3"}, "", "0.33\n", CliAllGood},
+        {"RoundMinusOneIsOff", {"--round", "-1", "1/3"}, "", "0.333333333333333\n", CliAllGood},
+        {"Version", {"--version"}, "", "1.2.6688 Build 1228\n", CliAllGood},
+        {"BaseShowsResultsAsTheDisplayDoes",
+         {"--base", "hex", "255", "0-255", "1/3"},
+         "",
+         "$HFF\n-$HFF\n$H0\n",
+         CliAllGood},
+        {"Complement", {"--base", "oct", "--complement", "0-255"}, "", "$O37777777401\n", CliAllGood},
+        {"DecimalBaseIgnoresComplement", {"--base", "dec", "--complement", "0-255"}, "", "-255\n", CliAllGood},
+        {"BaseErrorsStayErrors", {"--base", "hex", "1/0"}, "", kInvalid, CliSomeFailed},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.label);
+        const CliRun run = RunWith(row.args, row.input);
+        EXPECT_EQ(run.out, row.out);
+        EXPECT_EQ(run.status, row.status);
     }
 }
 
-TEST(CliStandardInput, EvaluatesLineByLine) {
-    const CliRun run = RunWith({}, "x=2\r\nx^10\n\n1+\n");
-    EXPECT_EQ(run.out, "2\n1024\nError: The expression is empty!\nError: Syntax error in the expression!\n");
-    EXPECT_EQ(run.status, CliSomeFailed);
-    EXPECT_EQ(RunWith({}, "1\n2\n").status, CliAllGood);
+TEST(Cli, HelpAndBadUsage) {
+    const CliRun help = RunWith({"--help"});
+    EXPECT_EQ(help.status, CliAllGood);
+    EXPECT_NE(help.out.find("Usage: tessarondel-cli"), std::string::npos);
+    const std::vector<std::vector<std::string>> badUsages = {
+        {"--frobnicate"},        {"--round"}, {"--round", "x", "1"},
+        {"--round", "2.5", "1"}, {"--base"},  {"--base", "hexadecimal", "1"},
+        {"--json", "1+1"}};
+    for (const auto& args : badUsages) {
+        SCOPED_TRACE(args[0]);
+        const CliRun run = RunWith(args);
+        EXPECT_EQ(run.status, CliBadUsage);
+        EXPECT_TRUE(run.out.empty());
+        EXPECT_NE(run.err.find("Usage:"), std::string::npos);
+    }
 }
 
 TEST(CliJson, AnswersEveryRequestOnItsOwnLine) {
