@@ -15,17 +15,14 @@ const EvaluationRow kPrecedenceRows[] = {
     {"BracketFirst", "(2+3)*4", "20"},
     {"PowerIsLeftAssociative", "2^3^2", "64"},
     {"SubtractionIsLeftAssociative", "10-3-2", "5"},
-    {"PercentMultipliesItsLeft", "2*3%", "0.06"},
     {"PercentOnlyNextToIt", "2+10%", "2.1"},
     {"LeadingMinusIsSubtraction", "-3^2", "-9"},
     {"UnaryMinusBindsTighterThanPower", "2*-3^2", "18"},
-    {"SignPassInsideBracket", "(-2^2)", "-4"},
     {"BlankBeforeSignKeepsUnary", "( -2^2)", "4"},
     {"PlusSignsAreIgnored", "2*+-+3", "-6"},
     {"ComparisonsChain", "3>2>1", "0"},
     {"LogicLooserThanComparison", "1 or 2 == 2", "-1"},
     {"CommaGivesLastValue", "1,2,3", "3"},
-    {"NoToleranceInComparison", "0.1+0.2==0.3", "0"},
     {"RestIgnoredBehindClosedExpression", "3)+(4", "3"},
     {"UnreadableCharacterEndsTheExpression", "7\\22", "7"},
     // Operators and their numeric rules.
@@ -42,12 +39,9 @@ const EvaluationRow kPrecedenceRows[] = {
     {"NotEqual", "2<>2", "0"},
     {"ZeroToZero", "0^0", "1"},
     {"UnderflowIsZero", "1e-400", "0"},
-    {"DivisionByZero", "1/0", "Error", 5},
-    {"ModByZero", "5 mod 0", "Error", 5},
     {"DivByZero", "5 div 0", "Error", 5},
     {"ModByRoundedZero", "5 mod 0.4", "Error", 99},
     {"Int32OutOfRange", "2147483648 and 1", "Error", 6},
-    {"MinDivMinusOne", "(0-2147483648) div -1", "Error", 6},
     {"MinModMinusOne", "(0-2147483648) mod -1", "Error", 6},
     {"ProductOverflow", "1e308*10", "Error", 6},
     {"SumOverflow", "9e307+9e307", "Error", 6},
@@ -60,8 +54,6 @@ const EvaluationRow kPrecedenceRows[] = {
     {"ComparisonIsNoAssignment", "2=3", "Error", 0},
     {"ExpressionIsNoAssignmentTarget", "x+1=3", "Error", 0},
     {"FunctionWithoutBracket", "pi=", "Error", 0},
-    {"ReaderErrorNearTheEnd", "5!", "Error", 3},
-    {"NoFirstToken", "!555", "Error", 2},
 };
 INSTANTIATE_TEST_SUITE_P(Rows, Precedence, testing::ValuesIn(kPrecedenceRows), testing_engine::RowName);
 
@@ -78,7 +70,6 @@ TEST(AutoRounding, RoundsEveryOperatorResult) {
     EXPECT_EQ(testing_engine::Evaluate(state, "0.125,0").result, "0");
     EXPECT_EQ(testing_engine::Evaluate(state, "0.125+0").result, "0.12");
     state.ApproximateBits = 0;
-    EXPECT_EQ(testing_engine::Evaluate(state, "pi").result, "3.14159265358979");
     EXPECT_EQ(testing_engine::Evaluate(state, "2.5+0").result, "2");
     state.ApproximateBits = 23;
     EXPECT_EQ(testing_engine::Evaluate(state, "1/4").result, "0.25");
