@@ -41,40 +41,26 @@ TEST_P(NumberToBase, WritesTheDigits) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    WholeNumbers, NumberToBase,
-    ::testing::Values(BaseRow{"HexLowerCase", 255, 16, 0, "ff"}, BaseRow{"HexNegative", -255, 16, 0, "-ff"},
-                      BaseRow{"Zero", 0, 2, 0, "0"}, BaseRow{"BaseThree", 5, 3, 0, "12"},
-                      BaseRow{"BeyondExponentForm", 1E+20, 16, 0, "56bc75e2d63100000"},
-                      BaseRow{"BigValueHas256HexDigits", BigValue, 16, 0, BigValueInHex()},
-                      // 2^64 - 1 becomes 18446744073709600000 first, the double nearest to that.
-                      BaseRow{"FifteenDigitsFirst", 18446744073709551615.0, 16, 0, "1000000000000c000"}),
-    testing_builtins::RowName<BaseRow>);
-
-// The fixed text rounds the 15-digit value, ties away from zero.
-INSTANTIATE_TEST_SUITE_P(FixedTextRounding, NumberToBase,
-                         ::testing::Values(BaseRow{"BelowHalfIsZero", 0.4, 2, 0, "0"},
-                                           BaseRow{"NegativeZeroHasNoSign", -0.4, 2, 0, "0"},
-                                           BaseRow{"HalfRoundsUp", 0.5, 2, 0, "1"},
-                                           BaseRow{"TwoAndAHalfRoundsUp", 2.5, 2, 0, "11"},
-                                           BaseRow{"FifteenDigitValueDecides", 1.4999999999999999, 2, 0, "10"},
-                                           BaseRow{"CarryIntoTheWholePart", 0.999, 2, 2, "1.0"},
-                                           BaseRow{"CarryAddsADigit", 9.99, 10, 1, "10.0"}),
-                         testing_builtins::RowName<BaseRow>);
-
-// Both digit loops run at least once; the fraction is cut at the decimals.
-INSTANTIATE_TEST_SUITE_P(Fractions, NumberToBase,
-                         ::testing::Values(BaseRow{"ExactBinaryFraction", 2.625, 2, 3, "10.101"},
-                                           BaseRow{"FixedTextCutsFirst", 0.1, 2, 4, "0.0001"},
-                                           BaseRow{"ZeroFractionGivesOneDigit", 255, 16, 2, "ff.0"},
-                                           BaseRow{"TinyNumberWithDecimals", 1E-20, 2, 3, "0.0"},
-                                           BaseRow{"NegativeZeroFractionKeepsTheSign", -0.001, 2, 2, "-0.0"}),
-                         testing_builtins::RowName<BaseRow>);
-
-INSTANTIATE_TEST_SUITE_P(
-    Failures, NumberToBase,
-    ::testing::Values(BaseRow{"NegativeDecimals", 0.5, 2, -1, "", {11}},
-                      BaseRow{"FifteenDigitsOfLargestDoubleOverflow", 1.7976931348623157E+308, 16, 0, "", {11}},
-                      BaseRow{"BaseZeroDividesByZero", 5, 0, 0, "", {11}}),
+    Rows, NumberToBase,
+    ::testing::Values(
+        BaseRow{"HexLowerCase", 255, 16, 0, "ff"}, BaseRow{"HexNegative", -255, 16, 0, "-ff"},
+        BaseRow{"Zero", 0, 2, 0, "0"}, BaseRow{"BaseThree", 5, 3, 0, "12"},
+        BaseRow{"BeyondExponentForm", 1E+20, 16, 0, "56bc75e2d63100000"},
+        BaseRow{"BigValueHas256HexDigits", BigValue, 16, 0, BigValueInHex()},
+        // 2^64 - 1 becomes 18446744073709600000 first, the double nearest to that.
+        BaseRow{"FifteenDigitsFirst", 18446744073709551615.0, 16, 0, "1000000000000c000"},
+        // The fixed text rounds the 15-digit value, ties away from zero.
+        BaseRow{"BelowHalfIsZero", 0.4, 2, 0, "0"}, BaseRow{"NegativeZeroHasNoSign", -0.4, 2, 0, "0"},
+        BaseRow{"HalfRoundsUp", 0.5, 2, 0, "1"}, BaseRow{"TwoAndAHalfRoundsUp", 2.5, 2, 0, "11"},
+        BaseRow{"FifteenDigitValueDecides", 1.4999999999999999, 2, 0, "10"},
+        BaseRow{"CarryIntoTheWholePart", 0.999, 2, 2, "1.0"}, BaseRow{"CarryAddsADigit", 9.99, 10, 1, "10.0"},
+        // Both digit loops run at least once; the fraction is cut at the decimals.
+        BaseRow{"ExactBinaryFraction", 2.625, 2, 3, "10.101"}, BaseRow{"FixedTextCutsFirst", 0.1, 2, 4, "0.0001"},
+        BaseRow{"ZeroFractionGivesOneDigit", 255, 16, 2, "ff.0"}, BaseRow{"TinyNumberWithDecimals", 1E-20, 2, 3, "0.0"},
+        BaseRow{"NegativeZeroFractionKeepsTheSign", -0.001, 2, 2, "-0.0"},
+        BaseRow{"NegativeDecimals", 0.5, 2, -1, "", {11}},
+        BaseRow{"FifteenDigitsOfLargestDoubleOverflow", 1.7976931348623157E+308, 16, 0, "", {11}},
+        BaseRow{"BaseZeroDividesByZero", 5, 0, 0, "", {11}}),
     testing_builtins::RowName<BaseRow>);
 
 TEST(BaseDigitText, WritesOneLowerCaseDigitOrNothing) {
