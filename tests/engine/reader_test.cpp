@@ -52,7 +52,6 @@ const ReaderRow kReaderRows[] = {
      u"1%%2%\\3%!4",
      {{"1", 103}, {"%%", 101}, {"2", 103}, {"%\\", 101}, {"3", 103}, {"%!", 101}, {"4", 103}}},
     {"FunctionName", u"sin(1)", {{"sin", 102}, {"(", 101}, {"1", 103}, {")", 101}}},
-    {"BlankMakesFunctionAVariable", u"sin (1)", {{"sin", 104}, {"(", 101}, {"1", 103}, {")", 101}}},
     {"NumberRunsToDelimiter", u"12.5e3+1", {{"12.5e3", 103}, {"+", 101}, {"1", 103}}},
     {"BaseLiteral", u"$HFF+1", {{"$HFF", 103}, {"+", 101}, {"1", 103}}},
     {"TwoBaseLiterals", u"$hff$h10", {{"$hff", 103}, {"$h10", 103}}},
@@ -65,13 +64,6 @@ const ReaderRow kReaderRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Rows, Reader, testing::ValuesIn(kReaderRows),
                          [](const auto& info) { return std::string(info.param.name); });
-
-TEST(Reader, CreatesEachNewVariableOnce) {
-    EngineState state = testing_engine::FreshEngine();
-    int error = -1;
-    ReadAll(state, u"x+y+x", error);
-    EXPECT_EQ(ToUtf8(state.VariableNames), "{x}{y}");
-}
 
 // A text that IsReadToTheEnd accepts is read whole, without error; the walk
 // for custom calls relies on that to skip texts it cannot stop in.
@@ -96,13 +88,6 @@ TEST(Reader, ATextOfTokenCharactersIsReadToTheEnd) {
     EXPECT_GT(accepted, 300);
     EXPECT_FALSE(IsReadToTheEnd(u"5!"));
     EXPECT_FALSE(IsReadToTheEnd(u"x\ty"));
-}
-
-TEST(Reader, CustomFunctionNamesAreFunctions) {
-    EngineState state = testing_engine::FreshEngine();
-    state.CustomFunctionNames = u"{hyp}";
-    int error = -1;
-    EXPECT_EQ(ReadAll(state, u"hyp", error), (std::vector<Token>{{"hyp", 102}}));
 }
 
 }  // namespace
