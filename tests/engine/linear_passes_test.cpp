@@ -2,7 +2,6 @@
 // generated texts: same text, same completion, same error.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <random>
 #include <string>
