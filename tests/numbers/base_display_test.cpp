@@ -62,6 +62,8 @@ INSTANTIATE_TEST_SUITE_P(
                       BaseRow{"Hex", -255, Hex, true, "$HFFFFFF01"},
                       BaseRow{"MinusOneAndAHalfRoundsUp", -1.5, Hex, true, "$HFFFFFFFF"},
                       BaseRow{"SmallNegativeFraction", -0.3, Bin, true, "$B1" + std::string(32, '0')},
+                      // BigValue, shown as "Inf", needs no special case: 256 hexadecimal digits.
+                      BaseRow{"Infinity", BigValue, Hex, true, "$HFFFFFFFFFFFF10" + std::string(242, '0')},
                       BaseRow{"IndexAboveTheBases", 255, 4, false, std::nullopt},
                       BaseRow{"NegativeIndex", 255, -1, false, std::nullopt},
                       BaseRow{"ConversionFailure", 1.7976931348623157E+308, Hex, false, std::nullopt, {11}}),
