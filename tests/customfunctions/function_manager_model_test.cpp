@@ -1,10 +1,9 @@
-// The Custom Function Manager: its states, Save in both forms, Cancel, Delete
-// and Insert, through a document store and a host that the tests script.
+// The Custom Function Manager: its states, Save in both forms, Cancel and
+// Delete, through a document store and a host that the tests script.
 #include "customfunctions/function_manager_model.h"
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <map>
 
 #include "engine/engine.h"
@@ -36,35 +35,24 @@ public:
     std::vector<std::u16string> deleted;
 };
 
-// Confirmations are answered from a script; any box the script lacks fails.
-class ScriptedHost final : public FunctionManagerHost {
+// Records the boxes as "text | title" and answers every question alike.
+class RecordingHost final : public FunctionManagerHost {
 public:
-    ~ScriptedHost() {
-        for (const auto& [text, answer] : confirmations) ADD_FAILURE() << "question never asked: " << U8(text);
-    }
     void InsertFunction(std::u16string_view text) override { inserted.emplace_back(text); }
-    void SetQuickReference(std::u16string text) override { quickReference = std::move(text); }
-    void SetFunctionManagerOption(bool checked) override { option = checked; }
+    void SetQuickReference(std::u16string) override {}
+    void SetFunctionManagerOption(bool) override {}
     void ShowNotice(std::u16string_view text, std::u16string_view title) override {
         notices.push_back(U8(text) + " | " + U8(title));
     }
     bool Confirm(std::u16string_view text, std::u16string_view title) override {
-        EXPECT_EQ(U8(title), "Information");
-        if (confirmations.empty()) {
-            ADD_FAILURE() << "unexpected question: " << U8(text);
-            return false;
-        }
-        auto [expected, answer] = confirmations.front();
-        confirmations.pop_front();
-        EXPECT_EQ(U8(text), U8(expected));
+        questions.push_back(U8(text) + " | " + U8(title));
         return answer;
     }
 
-    std::deque<std::pair<std::u16string, bool>> confirmations;
+    bool answer = true;
     std::vector<std::u16string> inserted;
-    std::u16string quickReference;
-    std::optional<bool> option;
     std::vector<std::string> notices;
+    std::vector<std::string> questions;
 };
 
 const CustomFunctionDocument kHyp{u"Hyp", u"a, b", u"s=a^2+b^2 ' squares\r\nsqrt(s)\r\n",
@@ -73,6 +61,10 @@ const CustomFunctionDocument kDouble{u"twice", u"n", u"2*n\r\n", u"Two times\r\n
 
 const std::string kSaveFault = "Some errors occurred when Saving the Custom Function! | Error Information";
 const std::string kRemoveFault = "Some errors occurred when removing the Custom Function! | Error Information";
+const std::string kDiscardQuestion = "Really don't save the changed information? | Information";
+std::string DeleteQuestion(const char* name) {
+    return std::string("Really removing the selected custom function: ") + name + " ? | Information";
+}
 
 class FunctionManager : public ::testing::Test {
 public:
@@ -99,84 +91,52 @@ public:
 
     EngineState engine;
     MemoryDocumentStore store;
-    ScriptedHost host;
+    RecordingHost host;
     FunctionManagerModel manager{engine, store, host};
     std::vector<std::string> engineBoxes;
 };
 
-// --- The state table -----------------------------------------------------------
+// --- The states ------------------------------------------------------------------
 
-struct StateRow {
-    const char* name;
-    void (*reach)(FunctionManager&, FunctionManagerModel&, ScriptedHost&);
-    ManagerState state;
-    bool nameLocked;
-    bool othersLocked;
-    bool okCancel;
-    bool newEnabled;
-    bool editDelete;
-};
-
-class ManagerStates : public FunctionManager, public ::testing::WithParamInterface<StateRow> {};
-
-const StateRow kStateRows[] = {
-    {"ListAfterLoad", [](FunctionManager&, FunctionManagerModel&, ScriptedHost&) {}, ManagerState::List, true, true,
-     false, true, true},
-    {"NewFromList", [](FunctionManager&, FunctionManagerModel& m, ScriptedHost&) { m.cmdNew(); }, ManagerState::New,
-     false, false, true, false, false},
-    {"EditFromList", [](FunctionManager&, FunctionManagerModel& m, ScriptedHost&) { m.cmdEdit(); }, ManagerState::Edit,
-     true, false, true, false, false},
-    {"CancelAnsweredYes",
-     [](FunctionManager&, FunctionManagerModel& m, ScriptedHost& h) {
-         m.cmdEdit();
-         h.confirmations.push_back({u"Really don't save the changed information?", true});
-         m.cmdCancel();
-     },
-     ManagerState::List, true, true, false, true, true},
-    {"CancelAnsweredNoStays",
-     [](FunctionManager&, FunctionManagerModel& m, ScriptedHost& h) {
-         m.cmdNew();
-         h.confirmations.push_back({u"Really don't save the changed information?", false});
-         m.cmdCancel();
-     },
-     ManagerState::New, false, false, true, false, false},
-    {"SavedNew",
-     [](FunctionManager& t, FunctionManagerModel& m, ScriptedHost&) {
-         t.TypeNew(kDouble);
-         m.cmdOK();
-     },
-     ManagerState::List, true, true, false, true, true},
-    {"FailedSaveStays",
-     [](FunctionManager&, FunctionManagerModel& m, ScriptedHost&) {
-         m.cmdNew();
-         m.cmdOK();
-     },
-     ManagerState::New, false, false, true, false, false},
-};
-
-TEST_P(ManagerStates, LocksAndButtonsFollowTheState) {
-    const StateRow& row = GetParam();
-    Load({kHyp});
-    row.reach(*this, manager, host);
-    EXPECT_EQ(manager.State(), row.state);
-    EXPECT_EQ(manager.Editing(), row.state != ManagerState::List);
-    EXPECT_EQ(manager.FieldLocked(FunctionField::Name), row.nameLocked);
+// List locks every box; New opens them all; Edit all but the name. Insert and
+// Close are always on.
+void ExpectControlsFor(const FunctionManagerModel& manager, ManagerState state) {
+    const bool list = state == ManagerState::List;
+    EXPECT_EQ(manager.State(), state);
+    EXPECT_EQ(manager.Editing(), !list);
+    EXPECT_EQ(manager.FieldLocked(FunctionField::Name), state != ManagerState::New);
     for (FunctionField field : {FunctionField::Parameters, FunctionField::Expression, FunctionField::Description}) {
-        EXPECT_EQ(manager.FieldLocked(field), row.othersLocked);
+        EXPECT_EQ(manager.FieldLocked(field), list);
     }
-    EXPECT_EQ(manager.ButtonEnabled(ManagerButton::Ok), row.okCancel);
-    EXPECT_EQ(manager.ButtonEnabled(ManagerButton::Cancel), row.okCancel);
-    EXPECT_EQ(manager.ButtonEnabled(ManagerButton::New), row.newEnabled);
-    EXPECT_EQ(manager.ButtonEnabled(ManagerButton::Edit), row.editDelete);
-    EXPECT_EQ(manager.ButtonEnabled(ManagerButton::Delete), row.editDelete);
+    for (ManagerButton button : {ManagerButton::Ok, ManagerButton::Cancel}) {
+        EXPECT_EQ(manager.ButtonEnabled(button), !list);
+    }
+    for (ManagerButton button : {ManagerButton::New, ManagerButton::Edit, ManagerButton::Delete}) {
+        EXPECT_EQ(manager.ButtonEnabled(button), list);
+    }
     EXPECT_TRUE(manager.ButtonEnabled(ManagerButton::Insert));
     EXPECT_TRUE(manager.ButtonEnabled(ManagerButton::Close));
 }
 
-INSTANTIATE_TEST_SUITE_P(States, ManagerStates, ::testing::ValuesIn(kStateRows),
-                         [](const auto& info) { return std::string(info.param.name); });
+TEST_F(FunctionManager, LocksAndButtonsFollowTheStateAndCancelAsksFirst) {
+    Load({kHyp});
+    ExpectControlsFor(manager, ManagerState::List);
+    manager.cmdNew();
+    ExpectControlsFor(manager, ManagerState::New);
+    host.answer = false;
+    manager.cmdCancel();
+    ExpectControlsFor(manager, ManagerState::New);
+    host.answer = true;
+    manager.cmdCancel();
+    ExpectControlsFor(manager, ManagerState::List);
+    manager.cmdEdit();
+    ExpectControlsFor(manager, ManagerState::Edit);
+    manager.cmdCancel();
+    ExpectControlsFor(manager, ManagerState::List);
+    EXPECT_EQ(host.questions, std::vector<std::string>(3, kDiscardQuestion));
+}
 
-// --- Load, list, insert ----------------------------------------------------------
+// --- Load and list ---------------------------------------------------------------
 
 TEST_F(FunctionManager, WithoutDocumentsEditAndDeleteAreOffAndInsertDoesNothing) {
     Load({});
@@ -226,19 +186,6 @@ TEST_F(FunctionManager, ClickingARowFillsTheBoxesButNotWhileEditing) {
     EXPECT_EQ(Field(FunctionField::Name), "twice");
 }
 
-TEST_F(FunctionManager, InsertPutsTheCallAndTheQuickReference) {
-    Load({kHyp});
-    manager.cmdInsert();
-    EXPECT_EQ(host.inserted, (std::vector<std::u16string>{u"Hyp()"}));
-    EXPECT_EQ(U8(host.quickReference), "Function:Hyp(a, b)\r\nDescription:Length of the hypotenuse\r\n");
-}
-
-TEST_F(FunctionManager, CloseUnchecksTheShellsOption) {
-    Load({});
-    manager.cmdClose();
-    EXPECT_EQ(host.option, false);
-}
-
 TEST_F(FunctionManager, DetailsSnapToTwoHeights) {
     Load({});
     EXPECT_EQ(manager.Height(), 2565);
@@ -272,11 +219,14 @@ TEST_F(FunctionManager, SavingANewFunctionWritesListsAndDefinesIt) {
 
 TEST_F(FunctionManager, EmptyNameOrExpressionIsRefusedBeforeAnythingChanges) {
     Load({});
-    TypeNew({u"f", u"", u"   ", u""});
-    manager.cmdOK();
+    for (const CustomFunctionDocument& typed :
+         {CustomFunctionDocument{u"f", u"", u"   ", u""}, CustomFunctionDocument{u"", u"", u"1", u""}}) {
+        TypeNew(typed);
+        manager.cmdOK();
+        EXPECT_EQ(manager.State(), ManagerState::New);
+    }
     EXPECT_EQ(host.notices,
-              (std::vector<std::string>{"The Function Name and the Expression List can not be empty! | Information"}));
-    EXPECT_EQ(manager.State(), ManagerState::New);
+              std::vector<std::string>(2, "The Function Name and the Expression List can not be empty! | Information"));
     EXPECT_TRUE(store.written.empty());
 }
 
@@ -303,7 +253,7 @@ TEST_F(FunctionManager, AFileThatCannotBeWrittenKeepsTheFunctionButStaysInNew) {
     EXPECT_EQ(manager.Rows().size(), 1u);
     EXPECT_EQ(Evaluate(u"square(5)"), "25");
     EXPECT_FALSE(engine.ShowErrorBox);
-    EXPECT_TRUE(engineBoxes.empty()) << engineBoxes.front();
+    EXPECT_TRUE(engineBoxes.empty());
 }
 
 // --- Saving an edited function -----------------------------------------------------
@@ -312,7 +262,6 @@ TEST_F(FunctionManager, SavingAnEditJoinsTheBodyAndUpdatesRowFileAndMenu) {
     Load({kHyp, kDouble});
     manager.SelectRow(2);
     manager.cmdEdit();
-    EXPECT_TRUE(manager.FieldLocked(FunctionField::Name));
     Type(FunctionField::Expression, u"m=3*n ' three\r\nm\r\n");
     Type(FunctionField::Description, u"Three times\r\n");
     manager.cmdOK();
@@ -338,19 +287,14 @@ TEST_F(FunctionManager, AnEditOfNothingButNotesFailsAndWritesNothing) {
 
 // --- Deleting ------------------------------------------------------------------------
 
-TEST_F(FunctionManager, DeleteAnsweredNoOrCancelKeepsEverything) {
-    Load({kHyp});
-    host.confirmations.push_back({u"Really removing the selected custom function: Hyp ?", false});
-    manager.cmdDelete();
-    EXPECT_EQ(manager.Rows().size(), 1u);
-    EXPECT_TRUE(store.deleted.empty());
-    EXPECT_EQ(Evaluate(u"hyp(3,4)"), "5");
-}
-
-TEST_F(FunctionManager, DeletingTheLastFunctionEmptiesTheBoxesAndDisablesEditAndDelete) {
+TEST_F(FunctionManager, DeleteAsksAndTheLastOneEmptiesTheBoxesAndDisablesEditAndDelete) {
     Load({kHyp, kDouble});
-    manager.SelectRow(1);
-    host.confirmations.push_back({u"Really removing the selected custom function: Hyp ?", true});
+    host.answer = false;
+    manager.cmdDelete();
+    EXPECT_EQ(manager.Rows().size(), 2u);
+    EXPECT_EQ(Evaluate(u"hyp(3,4)"), "5");
+
+    host.answer = true;
     manager.cmdDelete();
     EXPECT_EQ(store.deleted, (std::vector<std::u16string>{u"Hyp"}));
     ASSERT_EQ(manager.Rows().size(), 1u);
@@ -359,8 +303,9 @@ TEST_F(FunctionManager, DeletingTheLastFunctionEmptiesTheBoxesAndDisablesEditAnd
     EXPECT_EQ(Field(FunctionField::Name), "twice");
     EXPECT_NE(Evaluate(u"hyp(3,4)"), "5");
 
-    host.confirmations.push_back({u"Really removing the selected custom function: twice ?", true});
     manager.cmdDelete();
+    EXPECT_EQ(host.questions,
+              (std::vector<std::string>{DeleteQuestion("Hyp"), DeleteQuestion("Hyp"), DeleteQuestion("twice")}));
     EXPECT_TRUE(manager.Rows().empty());
     EXPECT_EQ(Field(FunctionField::Name), "");
     EXPECT_FALSE(manager.ButtonEnabled(ManagerButton::Edit));
@@ -370,18 +315,17 @@ TEST_F(FunctionManager, DeletingTheLastFunctionEmptiesTheBoxesAndDisablesEditAnd
 TEST_F(FunctionManager, AFileThatCannotBeDeletedIsReportedAfterTheFunctionLeft) {
     Load({kHyp});
     store.failDeletes = true;
-    host.confirmations.push_back({u"Really removing the selected custom function: Hyp ?", true});
     manager.cmdDelete();
     EXPECT_EQ(host.notices, (std::vector<std::string>{kRemoveFault}));
     EXPECT_TRUE(manager.Rows().empty());
     EXPECT_EQ(manager.FunctionCount(), 0);
 }
 
+// The engine goes first: a function it can't drop keeps its row and file.
 TEST_F(FunctionManager, ARowTheEngineNeverHeldCannotBeDeleted) {
     Load({kHyp});
     engine.CustomFunctionTable.Deallocate();
     engine.CustomFunctionNames.clear();
-    host.confirmations.push_back({u"Really removing the selected custom function: Hyp ?", true});
     manager.cmdDelete();
     EXPECT_EQ(host.notices, (std::vector<std::string>{kRemoveFault}));
     EXPECT_EQ(manager.Rows().size(), 1u);

@@ -9,14 +9,9 @@
 namespace tessarondel {
 namespace {
 
+using testing::DocumentBytes;
 using testing::EngineFixture;
 using testing::TemporaryFolder;
-
-std::string DocumentBytes(std::string_view name, std::string_view parameters, std::string_view body) {
-    return "%%Tessarondel Custom Function Document - 1.0\r\n[Function Name]\r\n" + std::string(name) +
-           "\r\n[Parameter List]\r\n" + std::string(parameters) + "\r\n[Expression List]\r\n" + std::string(body) +
-           "\r\n[Description]\r\n\r\n";
-}
 
 struct OrderRow {
     const char* name;
@@ -49,20 +44,34 @@ INSTANTIATE_TEST_SUITE_P(
                       OrderRow{"CallerFirst", "A.cfd", "b.cfd", "{aaa}", "Error"}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST(LoadFunctionFolder, AFailedReadShowsItsBoxAndDefinesNothing) {
+TEST(LoadFunctionFolder, AFailedReadShowsItsBoxAndKeepsNothing) {
     TemporaryFolder folder;
     folder.Write("a.cfd", DocumentBytes("aaa", "", "1"));
     std::filesystem::create_symlink(folder.Path() / "missing", folder.Path() / "b.cfd");
+    folder.Write("c.cfd", DocumentBytes("ccc", "", "1"));
     EngineFixture engine;
-    EXPECT_TRUE(LoadFunctionFolder(engine.state, folder.Path()).failed);
+    const FolderReadResult result = LoadFunctionFolder(engine.state, folder.Path());
+    EXPECT_TRUE(result.failed);
+    EXPECT_TRUE(result.documents.empty());
     EXPECT_EQ(engine.boxes, std::vector<std::u16string>{u"Some errors occurred when Loading the Custom Function!"});
     EXPECT_EQ(engine.state.CustomFunctionNames, u"");
 }
 
+// after.cfd, Hyp.cfd, nomagic.cfd (no magic: dropped), price.CFD, in name
+// order ignoring case. after.cfd's expression holds a line "[description]",
+// so aaa is defined with it and can't evaluate.
 TEST(LoadFunctionFolder, DocumentsWrittenOnWindowsDefineTheirFunctions) {
     EngineFixture engine;
-    LoadFunctionFolder(engine.state, std::filesystem::path(TESSARONDEL_TEST_DATA) / "cfd" / "windows");
-    // after.cfd's expression holds a line "[description]", so aaa is defined with it and can't evaluate.
+    const FolderReadResult result =
+        LoadFunctionFolder(engine.state, std::filesystem::path(TESSARONDEL_TEST_DATA) / "cfd" / "windows");
+    ASSERT_FALSE(result.failed);
+    ASSERT_EQ(result.documents.size(), 3u);
+    const CustomFunctionDocument& gross = result.documents[2];
+    EXPECT_EQ(gross.Name, u"Gross");
+    EXPECT_EQ(gross.ParameterText, u"net");
+    EXPECT_EQ(gross.Expression, u"net*1.19 ' VAT \u201Cstandard\u201D rate, \u20AC\r\n\r\n");
+    EXPECT_EQ(gross.Description, u"Price with VAT in \u20AC\r\nsecond line\r\n");
+    EXPECT_EQ(result.documents[1].Expression, u"s=a^2+b^2 ' squares\r\nsqrt(s)\r\n");
     EXPECT_EQ(engine.state.CustomFunctionNames, u"{aaa}{hyp}{gross}");
     EXPECT_EQ(engine.Evaluate(u"Hyp(3, 2+2)*10"), "50");
     EXPECT_EQ(engine.Evaluate(u"gross(100)"), "119");

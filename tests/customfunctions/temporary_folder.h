@@ -38,4 +38,11 @@ inline std::string ReadBytes(const std::filesystem::path& file) {
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
+// The bytes of a document as the manager writes them, with no description.
+inline std::string DocumentBytes(std::string_view name, std::string_view parameters, std::string_view body) {
+    return "%%Tessarondel Custom Function Document - 1.0\r\n[Function Name]\r\n" + std::string(name) +
+           "\r\n[Parameter List]\r\n" + std::string(parameters) + "\r\n[Expression List]\r\n" + std::string(body) +
+           "\r\n[Description]\r\n\r\n";
+}
+
 }  // namespace tessarondel::testing
