@@ -64,16 +64,5 @@ TEST_F(FunctionManagerSession, SavingAndDeletingReachTheFolder) {
     EXPECT_TRUE(std::filesystem::exists(folder / "Hyp.cfd"));
 }
 
-TEST_F(FunctionManagerSession, ANameThatIsNoFileNameKeepsTheFunctionAndReportsTheSave) {
-    manager.Load();
-    manager.cmdNew();
-    manager.SetFieldText(FunctionField::Name, u"a/b");
-    manager.SetFieldText(FunctionField::Expression, u"1");
-    box.ExpectNotice(u"Some errors occurred when Saving the Custom Function!", u"Error Information");
-    manager.cmdOK();
-    EXPECT_EQ(manager.State(), ManagerState::New);
-    EXPECT_EQ(manager.Rows().size(), 2u);
-}
-
 }  // namespace
 }  // namespace tessarondel::testing

@@ -1,5 +1,4 @@
 // The keypad, the two insertion routines and the Quick Reference they write.
-#include "shell/keypad.h"
 #include "shell/token_explanations.h"
 #include "shell_fakes.h"
 
@@ -16,34 +15,23 @@ struct KeypadRow {
     const char* explanation;  // second line of the Quick Reference
 };
 
-constexpr const char* kComparison =
-    "These operators compare their first argument to their second argument to test the validity of the specified "
-    "relationship.";
-
 const KeypadRow kKeypadRows[] = {
-    {"Digit7", KeypadGroup::Number, 7, "7", "Numbers."},
-    {"Point", KeypadGroup::Number, 10, ".", "Radix point."},
     {"SmallE", KeypadGroup::Number, 11, "e", "Scientific notation character."},
-    {"LeftBracket", KeypadGroup::Bracket, 0, "(", "Left bracket."},
     {"Comma", KeypadGroup::Operator, 0, ",",
      "The comma operator is like the C language comma operator.It returns the last value of list, i.e. Nm."},
     {"Times", KeypadGroup::Operator, 3, "*",
      "The multiplication perator perform the standard arithmetical multiplication."},
-    {"Percent", KeypadGroup::Operator, 6, "%",
-     "The percentage operator gives a convenient way to state percentage values in formulas."},
-    {"NotEqual", KeypadGroup::Operator, 13, "<>", kComparison},
+    {"NotEqual", KeypadGroup::Operator, 13, "<>",
+     "These operators compare their first argument to their second argument to test the validity of the specified "
+     "relationship."},
     {"Div", KeypadGroup::Operator, 14, " div ", "Return the integer part of (N1/N2)."},
     {"ModRunsOn", KeypadGroup::Operator, 15, " mod ",
      "Return the modulus of (N1/N2).1. The addition operator performs the standard arithmetical addition. 2. The "
      "unar plus always results to its argument and it is supplied only for symmetry."},
-    {"Imp", KeypadGroup::Operator, 19, " imp ",
-     "This operator performs logical Exclusive Implication on its arguments."},
     {"NoteMarkKeepsTrailingBlank", KeypadGroup::Operator, 20, "'",
      "Single quotation marks, give the note-line of the expression. The part after it will be see as the note. "},
     {"EqvIsAWord", KeypadGroup::Operator, 21, " eqv ", "This operator performs logical Equivalence on its arguments."},
     {"Pi", KeypadGroup::Constant, 0, " Pi ", "System Constants."},
-    {"BigE", KeypadGroup::Constant, 1, " E ", "System Constants."},
-    {"Eps", KeypadGroup::Constant, 3, " Eps ", "System Constants."},
 };
 
 class KeypadButtons : public MainWindowTest, public ::testing::WithParamInterface<KeypadRow> {};
@@ -61,17 +49,6 @@ TEST_P(KeypadButtons, InsertsItsTextAndExplainsIt) {
 
 INSTANTIATE_TEST_SUITE_P(Keypad, KeypadButtons, ::testing::ValuesIn(kKeypadRows),
                          [](const auto& info) { return std::string(info.param.name); });
-
-TEST(KeypadCaptions, GroupsHaveTheirSizesAndAliases) {
-    EXPECT_EQ(KeypadCaptions(KeypadGroup::Number).size(), 12u);
-    EXPECT_EQ(KeypadCaptions(KeypadGroup::Operator).size(), 22u);
-    EXPECT_EQ(KeypadCaptions(KeypadGroup::Constant).size(), 4u);
-    EXPECT_EQ(U8(KeypadCaptions(KeypadGroup::Function)[9]), "ator");
-    EXPECT_EQ(U8(KeypadCaptions(KeypadGroup::Function)[21]), "sum");
-    EXPECT_EQ(KeypadCaptionColour(KeypadGroup::Number), 4);
-    EXPECT_EQ(KeypadCaptionColour(KeypadGroup::Operator), 1);
-    EXPECT_EQ(KeypadCaptionColour(KeypadGroup::Bracket), 5);
-}
 
 TEST(TokenExplanations, LookupIsExactAndCaseSensitive) {
     EXPECT_EQ(U8(TokenExplanation(u"e")), "Scientific notation character.");
@@ -103,11 +80,6 @@ TEST_F(InputAreaSession, InsertFunctionWithoutBracketLeavesTheCaretAtTheStart) {
     main.InsertFunction(u"pi");
     EXPECT_EQ(InputText(), "xpiy");
     EXPECT_EQ(main.Input().SelectionStart(), 1u);
-}
-
-TEST_F(InputAreaSession, InsertingAValueExplainsNothing) {
-    main.InsertToken(u" 42 ");
-    EXPECT_EQ(QuickReference(), "Insert Object:42\r\n");
 }
 
 TEST_F(InputAreaSession, InsertionFollowsTheScratchLineOnlyAtTheEnd) {

@@ -49,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(Layouts, ArrangePanelsRows, ::testing::ValuesIn(kArrang
 
 using OptionsSession = MainWindowTest;
 
-TEST_F(OptionsSession, FirstRunCentresWithListKeypadAndQuickReference) {
+TEST_F(OptionsSession, FirstRunCentresWithListKeypadQuickReferenceAndAZeroDisplay) {
     EXPECT_EQ(main.WindowLeft(), (19200 - main.Layout().WindowWidth) / 2.0);
     EXPECT_EQ(main.WindowTop(), (14400 - main.Layout().WindowHeight) / 2.0);
     EXPECT_TRUE(main.Option(OptionExpressionList));
@@ -61,6 +61,11 @@ TEST_F(OptionsSession, FirstRunCentresWithListKeypadAndQuickReference) {
     EXPECT_EQ(main.WindowShownState(), 1);
     EXPECT_FALSE(engine.ShowErrorBox);
     EXPECT_EQ(U8(engine.ErrorBoxTitle), "Tessarondel Error Information");
+    EXPECT_EQ(Display(), "0");
+    EXPECT_EQ(main.Display().Look(), (DisplayLook{0xFFFFC0, 12, true, false}));
+    EXPECT_EQ(main.Display().SelectedBase(), 1);
+    EXPECT_FALSE(main.Display().FormatNegVisible());
+    EXPECT_EQ(QuickReference(), "Quick Reference\r\n");
 }
 
 TEST_F(OptionsSession, StoredStateIsRestoredAndWrittenBack) {

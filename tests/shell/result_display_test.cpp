@@ -16,14 +16,12 @@ struct BaseRow {
 };
 
 const BaseRow kBaseRows[] = {
-    {"HexPositive", u"255", 3, false, "$HFF"},
     {"HexNegativePlain", u"-255", 3, false, "-$HFF"},
     {"HexNegativeComplement", u"-255", 3, true, "$HFFFFFF01"},
     {"OctalComplement", u"-255", 2, true, "$O37777777401"},
     {"BinaryMinusOneComplement", u"-1", 0, true, "$B11111111111111111111111111111111"},
     {"BelowTwoToThe32FallsBackToPlain", u"-4294967297", 3, true, "-$H100000001"},
     {"PositiveWithBoxChecked", u"10", 0, true, "$B1010"},
-    {"ZeroBinary", u"0", 0, false, "$B0"},
     {"PointFourRoundsDown", u"0.4", 0, false, "$B0"},
     {"PointFiveRoundsUp", u"0.5", 0, false, "$B1"},
     {"DecimalShowsTheEnginesText", u"1/4", 1, true, "0.25"},
@@ -114,14 +112,6 @@ TEST_F(ResultDisplaySession, QuickReferencePairSwapsAndResizesTheInputPanel) {
     main.ClickQuickReferenceButton(1);
     EXPECT_EQ(main.Layout().InputPanel.Height, 3360);
     EXPECT_EQ(main.Layout().WindowHeight, shownHeight);
-}
-
-TEST_F(ResultDisplaySession, DisplayStartsAtZeroInTheResultLook) {
-    EXPECT_EQ(Display(), "0");
-    EXPECT_EQ(main.Display().Look(), (DisplayLook{0xFFFFC0, 12, true, false}));
-    EXPECT_EQ(main.Display().SelectedBase(), 1);
-    EXPECT_FALSE(main.Display().FormatNegVisible());
-    EXPECT_EQ(QuickReference(), "Quick Reference\r\n");
 }
 
 }  // namespace

@@ -50,42 +50,22 @@ TEST_F(VariableWindow, ClearForgetsTheVariablesEvenWhileHidden) {
     EXPECT_EQ(U8(main.Variables().Rows()[0].Name), "z");
 }
 
-TEST_F(VariableWindow, CloseUnchecksTheOptionAndKeepsTheRows) {
-    Enter(u"x=3");
-    main.SetOption(OptionVariableList, true);
-    main.Variables().cmdBtn(2);
-    EXPECT_FALSE(main.Option(OptionVariableList));
-    EXPECT_EQ(main.Variables().Rows().size(), 1u);
+// The width is fixed; the height has a floor of 4410.
+TEST_F(VariableWindow, ResizeKeepsTheWidthAndSnapsBackToTheMinimumHeight) {
+    const struct {
+        std::int32_t asked, height, listHeight, panelTop;
+    } rows[] = {{3000, 4410, 3315, 3360}, {6000, 6000, 4905, 4950}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.asked);
+        main.Variables().Resize(row.asked);
+        const VariableWindowGeometry& geometry = main.Variables().Geometry();
+        EXPECT_EQ(geometry.Width, 2775);
+        EXPECT_EQ(geometry.ListWidth, 2655);
+        EXPECT_EQ(geometry.Height, row.height);
+        EXPECT_EQ(geometry.ListHeight, row.listHeight);
+        EXPECT_EQ(geometry.PanelTop, row.panelTop);
+    }
 }
-
-struct HeightRow {
-    const char* name;
-    std::int32_t asked;
-    std::int32_t height;
-    std::int32_t listHeight;
-    std::int32_t panelTop;
-};
-
-const HeightRow kHeightRows[] = {
-    {"SnapsBackToTheMinimum", 3000, 4410, 3315, 3360},
-    {"Minimum", 4410, 4410, 3315, 3360},
-    {"Taller", 6000, 6000, 4905, 4950},
-};
-
-class VariableWindowHeights : public MainWindowTest, public ::testing::WithParamInterface<HeightRow> {};
-
-TEST_P(VariableWindowHeights, WidthIsFixedAndHeightHasAFloor) {
-    main.Variables().Resize(GetParam().asked);
-    const VariableWindowGeometry& geometry = main.Variables().Geometry();
-    EXPECT_EQ(geometry.Width, 2775);
-    EXPECT_EQ(geometry.ListWidth, 2655);
-    EXPECT_EQ(geometry.Height, GetParam().height);
-    EXPECT_EQ(geometry.ListHeight, GetParam().listHeight);
-    EXPECT_EQ(geometry.PanelTop, GetParam().panelTop);
-}
-
-INSTANTIATE_TEST_SUITE_P(Heights, VariableWindowHeights, ::testing::ValuesIn(kHeightRows),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace tessarondel::testing
