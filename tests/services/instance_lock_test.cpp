@@ -1,25 +1,24 @@
+#include "services/instance_lock.h"
+
+#include <gtest/gtest.h>
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
-
-#include "services/instance_lock.h"
 
 namespace tessarondel {
 namespace {
 
-TEST(InstanceLock, SecondHolderIsRefusedWhileTheFirstLives) {
+// A lock is stale only when the process that wrote it is gone, however old it is.
+TEST(InstanceLock, SecondHolderIsRefusedButALockOfAVanishedProcessIsTakenOver) {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("tessarondel.lock"));
-    InstanceLock first(path);
-    ASSERT_TRUE(first.TryAcquire());
-    InstanceLock second(path);
-    EXPECT_FALSE(second.TryAcquire());
-}
-
-TEST(InstanceLock, LockOfAVanishedProcessIsTakenOver) {
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("tessarondel.lock"));
+    {
+        InstanceLock first(path);
+        ASSERT_TRUE(first.TryAcquire());
+        InstanceLock second(path);
+        EXPECT_FALSE(second.TryAcquire());
+    }
     QProcess gone;
     gone.start(QStringLiteral("true"), {});
     ASSERT_TRUE(gone.waitForStarted());

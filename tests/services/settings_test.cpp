@@ -1,36 +1,17 @@
 #include <gtest/gtest.h>
 
+#include "engine/text_codec.h"
 #include "services/proxy_settings.h"
 #include "services/settings_table.h"
 
 namespace tessarondel {
 namespace {
 
-struct DefaultRow {
-    const char* name;
-    std::u16string& (*held)(HeldSettings&);
-    std::u16string expected;
-};
-
-class FirstRunDefaults : public ::testing::TestWithParam<DefaultRow> {};
-
-TEST_P(FirstRunDefaults, EmptyStoreGivesTheDefault) {
-    const MemorySettingsStore empty;
-    HeldSettings held = LoadSettings(empty);
-    EXPECT_EQ(GetParam().held(held), GetParam().expected);
+TEST(LoadSettings, AnEmptyStoreGivesTheFirstRunDefaults) {
+    const HeldSettings held = LoadSettings(MemorySettingsStore{});
+    EXPECT_EQ(held.Network, (ProxySettingsTexts{u"0", u"", u"80", u"", u""}));
+    EXPECT_EQ(held.Window, (FormInfoTexts{u"None", u"None", u"1", u"1", u"1", u"0"}));
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Settings, FirstRunDefaults,
-    ::testing::Values(DefaultRow{"State", [](HeldSettings& h) -> std::u16string& { return h.Network.State; }, u"0"},
-                      DefaultRow{"Proxy", [](HeldSettings& h) -> std::u16string& { return h.Network.Proxy; }, u""},
-                      DefaultRow{"Remoteport", [](HeldSettings& h) -> std::u16string& { return h.Network.Port; }, u"80"},
-                      DefaultRow{"Username", [](HeldSettings& h) -> std::u16string& { return h.Network.UserName; }, u""},
-                      DefaultRow{"Password", [](HeldSettings& h) -> std::u16string& { return h.Network.Password; }, u""},
-                      DefaultRow{"x", [](HeldSettings& h) -> std::u16string& { return h.Window.X; }, u"None"}, DefaultRow{"y", [](HeldSettings& h) -> std::u16string& { return h.Window.Y; }, u"None"},
-                      DefaultRow{"EL", [](HeldSettings& h) -> std::u16string& { return h.Window.EL; }, u"1"}, DefaultRow{"IP", [](HeldSettings& h) -> std::u16string& { return h.Window.IP; }, u"1"},
-                      DefaultRow{"QR", [](HeldSettings& h) -> std::u16string& { return h.Window.QR; }, u"1"}, DefaultRow{"SOT", [](HeldSettings& h) -> std::u16string& { return h.Window.SOT; }, u"0"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(LoadSettings, TrimsWindowStateButNotNetworkSettings) {
     MemorySettingsStore store;
@@ -45,48 +26,36 @@ TEST(LoadSettings, TrimsWindowStateButNotNetworkSettings) {
     EXPECT_EQ(held.Window.SOT, u"\t1") << "only blanks are trimmed";
 }
 
-struct PortRow {
-    const char* name;
-    std::u16string port;
-    bool applied;
-    std::int16_t remotePort;
-};
-
-class ProxyPort : public ::testing::TestWithParam<PortRow> {};
-
-TEST_P(ProxyPort, SixteenBitHalfEvenOrNothingStored) {
-    const auto& row = GetParam();
-    MemorySettingsStore store;
-    store.Write(u"Option", u"Remoteport", u"8080");
-    TransferSettings transfer;
-    transfer.RemotePort = 8080;
-    EXPECT_EQ(ApplyProxySettings(transfer, u"1", u"proxy", row.port, u"user", u"pw", store), row.applied);
-    EXPECT_EQ(transfer.RemotePort, row.remotePort);
-    EXPECT_EQ(store.Read(u"Option", u"Remoteport", u"?"), row.applied ? row.port : u"8080");
-    EXPECT_EQ(store.Contains(u"Option", u"Proxy"), row.applied);
+// The port is rounded half to even into 16 signed bits; out of range nothing is stored.
+TEST(ApplyProxySettings, PortIsSixteenBitHalfEvenOrNothingIsStored) {
+    const struct {
+        const char16_t* port;
+        bool applied;
+        std::int16_t remotePort;
+    } rows[] = {{u"2.5", true, 2},           {u"3.5", true, 4},         {u"32767", true, 32767},
+                {u"32768", false, 8080},     {u"32767.5", false, 8080}, {u"-32768.5", true, -32768},
+                {u"abc", true, 0},           {u"81x", true, 81}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(ToUtf8(row.port));
+        MemorySettingsStore store;
+        store.Write(u"Option", u"Remoteport", u"8080");
+        TransferSettings transfer;
+        transfer.RemotePort = 8080;
+        EXPECT_EQ(ApplyProxySettings(transfer, u"1", u"proxy", row.port, u"user", u"pw", store), row.applied);
+        EXPECT_EQ(transfer.RemotePort, row.remotePort);
+        EXPECT_EQ(store.Read(u"Option", u"Remoteport", u"?"), row.applied ? row.port : u"8080");
+        EXPECT_EQ(store.Contains(u"Option", u"Proxy"), row.applied);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Settings, ProxyPort,
-                         ::testing::Values(PortRow{"Plain", u"3128", true, 3128},
-                                           PortRow{"TieGoesToEvenDown", u"2.5", true, 2},
-                                           PortRow{"TieGoesToEvenUp", u"3.5", true, 4},
-                                           PortRow{"HighestSixteenBit", u"32767", true, 32767},
-                                           PortRow{"AboveSixteenBit", u"32768", false, 8080},
-                                           PortRow{"TieRoundsOutOfRange", u"32767.5", false, 8080},
-                                           PortRow{"FarAbove", u"70000", false, 8080},
-                                           PortRow{"LowestTieStaysIn", u"-32768.5", true, -32768},
-                                           PortRow{"NoNumberReadsAsZero", u"abc", true, 0},
-                                           PortRow{"LeadingDigitsCount", u"81x", true, 81}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(ApplyProxySettings, StoresFiveKeysInOrderAndPicksAccessByTrimmedState) {
     MemorySettingsStore store;
     TransferSettings transfer;
     ASSERT_TRUE(ApplyProxySettings(transfer, u" 0 ", u"p", u"80", u"u", u"w", store));
     EXPECT_EQ(transfer.Access, AccessType::Default);
-    EXPECT_EQ(store.WriteLog(), (std::vector<std::u16string>{u"Option/State= 0 ", u"Option/Proxy=p",
-                                                             u"Option/Remoteport=80", u"Option/Username=u",
-                                                             u"Option/Password=w"}));
+    EXPECT_EQ(store.WriteLog(),
+              (std::vector<std::u16string>{u"Option/State= 0 ", u"Option/Proxy=p", u"Option/Remoteport=80",
+                                           u"Option/Username=u", u"Option/Password=w"}));
     ASSERT_TRUE(ApplyProxySettings(transfer, u"yes", u"p", u"80", u"u", u"w", store));
     EXPECT_EQ(transfer.Access, AccessType::NamedProxy);
 }
