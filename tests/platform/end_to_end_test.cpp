@@ -1,5 +1,7 @@
 // Starts the real program on a virtual display of its own and drives it with
 // synthetic key presses, as a user would.
+#include <gtest/gtest.h>
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -7,7 +9,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -51,14 +52,14 @@ TEST(EndToEnd, TypesAnExpressionSavesTheListAndExits) {
     }
     QTemporaryDir home;
     ASSERT_TRUE(QDir(home.path()).mkpath(QStringLiteral("run")));
-    QFile::setPermissions(home.filePath(QStringLiteral("run")), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                                     QFileDevice::ExeOwner);
+    QFile::setPermissions(home.filePath(QStringLiteral("run")),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 
     OwnedProcess xvfb;  // -displayfd 1: the server picks a free display and names it on stdout
-    xvfb.process.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                                                QStringLiteral("-screen"), QStringLiteral("0"),
-                                                QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"),
-                                                QStringLiteral("tcp")});
+    xvfb.process.start(
+        QStringLiteral("Xvfb"),
+        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+         QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     ASSERT_TRUE(xvfb.process.waitForReadyRead(10000));
     const QString display = QLatin1Char(':') + QString::fromUtf8(xvfb.process.readLine()).trimmed();
 
@@ -73,14 +74,14 @@ TEST(EndToEnd, TypesAnExpressionSavesTheListAndExits) {
     app.process.start(QStringLiteral(TESSARONDEL_BINARY), {});
     ASSERT_TRUE(app.process.waitForStarted(10000));
 
-    const QString window = XDoTool(display, {QStringLiteral("search"), QStringLiteral("--sync"),
-                                             QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
-                                             QStringLiteral("^Tessarondel$")})
-                               .section('\n', 0, 0);
+    const QString window =
+        XDoTool(display, {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+                          QStringLiteral("--name"), QStringLiteral("^Tessarondel$")})
+            .section('\n', 0, 0);
     ASSERT_FALSE(window.isEmpty());
     XDoTool(display, {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
-    XDoTool(display, {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("20"),
-                      QStringLiteral("2*(3+4)^2")});
+    XDoTool(display,
+            {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("20"), QStringLiteral("2*(3+4)^2")});
     XDoTool(display, {QStringLiteral("key"), QStringLiteral("Return"), QStringLiteral("ctrl+s")});
     XDoTool(display, {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--name"),
                       QStringLiteral("^Save As$")});
@@ -98,7 +99,8 @@ TEST(EndToEnd, TypesAnExpressionSavesTheListAndExits) {
     EXPECT_EQ(app.process.exitCode(), 0);
     const QString settings = home.filePath(QStringLiteral("config/Tessarondel/Tessarondel.ini"));
     ASSERT_TRUE(QFile::exists(settings));
-    EXPECT_EQ(QFile::permissions(settings) & (QFileDevice::ReadOther | QFileDevice::ReadGroup), QFileDevice::Permissions());
+    EXPECT_EQ(QFile::permissions(settings) & (QFileDevice::ReadOther | QFileDevice::ReadGroup),
+              QFileDevice::Permissions());
     QFile stored(settings);
     ASSERT_TRUE(stored.open(QIODevice::ReadOnly));
     const QByteArray text = stored.readAll();

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "platform/main_window.h"
-#include "services/fake_dialogs.h"
+#include "shell/desktop_fakes.h"
 #include "shell/main_window_model.h"
 
 namespace tessarondel::testing {
@@ -26,32 +26,6 @@ inline QApplication& WidgetApplication() {
     return *application;
 }
 
-class FakeClipboard final : public Clipboard {
-public:
-    std::u16string GetText() override { return text; }
-    void SetText(std::u16string_view value) override { text = value; }
-    std::u16string text;
-};
-
-class FakeSaveDialog final : public SaveFileDialog {
-public:
-    std::u16string AskSaveFileName(std::u16string_view) override { return answer; }
-    std::u16string answer;
-};
-
-// A message box that fails the test on any box, unless a test hands it a
-// script of the boxes it expects.
-class GuardedMessageBox final : public MessageBox {
-public:
-    MessageAnswer Show(std::u16string_view text, std::u16string_view title, MessageButtons buttons,
-                       MessageIcon icon) override {
-        if (script != nullptr) return script->Show(text, title, buttons, icon);
-        ADD_FAILURE() << "unexpected box: " << QString::fromStdU16String(std::u16string(text)).toStdString();
-        return MessageAnswer::Cancel;
-    }
-    ScriptedMessageBox* script = nullptr;
-};
-
 // Declared first in a harness, so the application exists before any widget.
 struct WidgetApplicationGuard {
     WidgetApplicationGuard() { WidgetApplication(); }
@@ -66,14 +40,15 @@ struct MainWindowHarness {
 
     WidgetApplicationGuard application;
     EngineState engine;
-    GuardedMessageBox box;
+    ScriptedMessageBox box;  // any box a test doesn't expect fails it
     FakeClipboard clipboard;
     FakeSaveDialog saveDialog;
-    RecordingOpener opener;
+    FakeShellOpener opener;
     QTemporaryDir programDirectory;
-    MainWindowModel model{engine,
-                          {box, clipboard, saveDialog, opener},
-                          {programDirectory.path().toStdU16String(), {u"help@x.invalid", u"ideas@x.invalid", u"https://x.invalid"}}};
+    MainWindowModel model{
+        engine,
+        {box, clipboard, saveDialog, opener},
+        {programDirectory.path().toStdU16String(), {u"help@x.invalid", u"ideas@x.invalid", u"https://x.invalid"}}};
     MainWindow window{model};
 };
 
