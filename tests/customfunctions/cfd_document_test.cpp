@@ -43,10 +43,6 @@ TEST_P(ParseDocumentTest, ReadsTheSectionsAsWritten) {
 INSTANTIATE_TEST_SUITE_P(
     Sections, ParseDocumentTest,
     ::testing::Values(
-        ParseRow{"WorkedExample",
-                 Crlf({Magic, "[Function Name]", "Hyp", "[Parameter List]", "a, b", "[Expression List]",
-                       "s=a^2+b^2 ' squares", "sqrt(s)", "[Description]", "Length of the hypotenuse"}),
-                 true, "Hyp", "a, b", "s=a^2+b^2 ' squares\r\nsqrt(s)\r\n", "Length of the hypotenuse\r\n"},
         ParseRow{"TextBeforeMagicAndIndentedHeaders",
                  Crlf({"junk", "  " + Magic, "  [Function Name]", "k", " [Parameter List] ", "", "[Expression List]",
                        "3", "[Description]"}),

@@ -217,26 +217,21 @@ TEST_F(FunctionManager, SavingANewFunctionWritesListsAndDefinesIt) {
     EXPECT_TRUE(engineBoxes.empty());
 }
 
-TEST_F(FunctionManager, EmptyNameOrExpressionIsRefusedBeforeAnythingChanges) {
-    Load({});
+// The window's own check comes first, then the engine's with its box shown
+// for the save; neither writes anything and the state stays New.
+TEST_F(FunctionManager, ASaveRefusedByTheWindowOrTheEngineChangesNothing) {
+    Load({kHyp});
     for (const CustomFunctionDocument& typed :
-         {CustomFunctionDocument{u"f", u"", u"   ", u""}, CustomFunctionDocument{u"", u"", u"1", u""}}) {
+         {CustomFunctionDocument{u"f", u"", u"   ", u""}, CustomFunctionDocument{u"", u"", u"1", u""},
+          CustomFunctionDocument{u"hyp", u"x", u"x", u""}}) {
         TypeNew(typed);
         manager.cmdOK();
         EXPECT_EQ(manager.State(), ManagerState::New);
     }
     EXPECT_EQ(host.notices,
               std::vector<std::string>(2, "The Function Name and the Expression List can not be empty! | Information"));
-    EXPECT_TRUE(store.written.empty());
-}
-
-TEST_F(FunctionManager, ANameThatExistsGetsTheEnginesBoxAndTheStateStays) {
-    Load({kHyp});
-    TypeNew({u"hyp", u"x", u"x", u""});
-    manager.cmdOK();
     EXPECT_EQ(engineBoxes, (std::vector<std::string>{"ErrNum:9\r\nErrInformation:Redefine the custom functions!"}));
     EXPECT_EQ(engine.ErrorNumber, 9);
-    EXPECT_EQ(manager.State(), ManagerState::New);
     EXPECT_EQ(Field(FunctionField::Name), "hyp");
     EXPECT_TRUE(store.written.empty());
     EXPECT_EQ(manager.Rows().size(), 1u);
