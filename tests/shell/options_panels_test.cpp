@@ -68,42 +68,29 @@ TEST_F(OptionsSession, FirstRunCentresWithListKeypadQuickReferenceAndAZeroDispla
     EXPECT_EQ(QuickReference(), "Quick Reference\r\n");
 }
 
+// The stored texts read as numbers: nonsense as zero, and -0.5 rounds down to -1, which is on.
 TEST_F(OptionsSession, StoredStateIsRestoredAndWrittenBack) {
-    MainWindowModel other(engine, ShellPlatform{box, clipboard, saveDialog, opener}, ShellEnvironment{});
-    other.Load(FormInfoTexts{u"0", u"120", u"0", u"0", u"0", u"1"}, ScreenSize{19200, 14400});
-    EXPECT_EQ(other.WindowLeft(), 0.0);
-    EXPECT_EQ(other.WindowTop(), 120.0);
-    EXPECT_FALSE(other.Layout().ExpressionList.Visible);
-    EXPECT_FALSE(other.Layout().InputPanel.Visible);
-    EXPECT_FALSE(other.QuickRefShown());
-    EXPECT_TRUE(other.Option(OptionStayOnTop));
-    EXPECT_EQ(other.CurrentFormInfo(), (FormInfoTexts{u"0", u"120", u"0", u"0", u"0", u"1"}));
-}
-
-TEST_F(OptionsSession, NonsenseSettingsReadAsZero) {
-    MainWindowModel other(engine, ShellPlatform{box, clipboard, saveDialog, opener}, ShellEnvironment{});
-    other.Load(FormInfoTexts{u"left", u"12abc", u"yes", u"2.7", u"", u"-0.5"}, ScreenSize{19200, 14400});
-    EXPECT_EQ(other.WindowLeft(), 0.0);
-    EXPECT_EQ(other.WindowTop(), 12.0);
-    EXPECT_FALSE(other.Option(OptionExpressionList));
-    EXPECT_TRUE(other.Option(OptionInputPanel));
-    EXPECT_FALSE(other.QuickRefShown());
-    EXPECT_TRUE(other.Option(OptionStayOnTop));  // -0.5 rounds down to -1
-}
-
-TEST_F(OptionsSession, PanelsSwitchOffAndComeBackWithTheirContent) {
-    Enter(u"1");
-    const std::int32_t fullHeight = main.Layout().WindowHeight;
-    main.ClickOption(OptionExpressionList);
-    main.ClickOption(OptionInputPanel);
-    EXPECT_FALSE(main.Layout().ExpressionList.Visible);
-    EXPECT_EQ(main.Layout().Calculator.Top, 8);
-    EXPECT_LT(main.Layout().WindowHeight, fullHeight);
-    main.ClickOption(OptionExpressionList);
-    main.ClickOption(OptionInputPanel);
-    EXPECT_EQ(main.Layout().WindowHeight, fullHeight);
-    EXPECT_EQ(main.Expressions().Rows().size(), 1u);
-    EXPECT_TRUE(Announced(MainWindowChange::Layout));
+    const struct {
+        FormInfoTexts stored;
+        double top;
+        bool input;
+        bool writtenBackAsRead;
+    } rows[] = {{{u"0", u"120", u"0", u"0", u"0", u"1"}, 120, false, true},
+                {{u"left", u"12abc", u"yes", u"2.7", u"", u"-0.5"}, 12, true, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.top);
+        MainWindowModel other(engine, ShellPlatform{box, clipboard, saveDialog, opener}, ShellEnvironment{});
+        other.Load(row.stored, ScreenSize{19200, 14400});
+        EXPECT_EQ(other.WindowLeft(), 0.0);
+        EXPECT_EQ(other.WindowTop(), row.top);
+        EXPECT_FALSE(other.Layout().ExpressionList.Visible);
+        EXPECT_EQ(other.Layout().InputPanel.Visible, row.input);
+        EXPECT_FALSE(other.QuickRefShown());
+        EXPECT_TRUE(other.Option(OptionStayOnTop));
+        if (row.writtenBackAsRead) {
+            EXPECT_EQ(other.CurrentFormInfo(), row.stored);
+        }
+    }
 }
 
 TEST_F(OptionsSession, SideWindowsFollowTheirBoxesAndTheMainMenuChecks) {

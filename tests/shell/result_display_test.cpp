@@ -16,15 +16,12 @@ struct BaseRow {
 };
 
 const BaseRow kBaseRows[] = {
-    {"HexNegativePlain", u"-255", 3, false, "-$HFF"},
-    {"HexNegativeComplement", u"-255", 3, true, "$HFFFFFF01"},
     {"OctalComplement", u"-255", 2, true, "$O37777777401"},
     {"BinaryMinusOneComplement", u"-1", 0, true, "$B11111111111111111111111111111111"},
     {"BelowTwoToThe32FallsBackToPlain", u"-4294967297", 3, true, "-$H100000001"},
     {"PositiveWithBoxChecked", u"10", 0, true, "$B1010"},
     {"PointFourRoundsDown", u"0.4", 0, false, "$B0"},
     {"PointFiveRoundsUp", u"0.5", 0, false, "$B1"},
-    {"DecimalShowsTheEnginesText", u"1/4", 1, true, "0.25"},
 };
 
 class BaseDisplays : public MainWindowTest, public ::testing::WithParamInterface<BaseRow> {};
