@@ -12,15 +12,16 @@
 
 namespace {
 
-// Runs xdotool on the display and returns its output; fails the test when it fails.
-QString XDoTool(const QString& display, const QStringList& arguments, int timeoutMs = 20000) {
+// Runs xdotool on the display with the blank-separated arguments and returns
+// its output; fails the test when it fails.
+QString XDoTool(const QString& display, const QString& arguments) {
     QProcess tool;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DISPLAY"), display);
     tool.setProcessEnvironment(environment);
-    tool.start(QStringLiteral("xdotool"), arguments);
-    EXPECT_TRUE(tool.waitForFinished(timeoutMs)) << arguments.join(' ').toStdString();
-    EXPECT_EQ(tool.exitCode(), 0) << arguments.join(' ').toStdString();
+    tool.start(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' ')));
+    EXPECT_TRUE(tool.waitForFinished(20000)) << arguments.toStdString();
+    EXPECT_EQ(tool.exitCode(), 0) << arguments.toStdString();
     return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
 }
 
@@ -56,10 +57,8 @@ TEST(EndToEnd, TypesAnExpressionSavesTheListAndExits) {
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 
     OwnedProcess xvfb;  // -displayfd 1: the server picks a free display and names it on stdout
-    xvfb.process.start(
-        QStringLiteral("Xvfb"),
-        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-         QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    xvfb.process.start(QStringLiteral("Xvfb"),
+                       QStringLiteral("-displayfd 1 -screen 0 1280x1024x24 -nolisten tcp").split(QLatin1Char(' ')));
     ASSERT_TRUE(xvfb.process.waitForReadyRead(10000));
     const QString display = QLatin1Char(':') + QString::fromUtf8(xvfb.process.readLine()).trimmed();
 
@@ -75,26 +74,22 @@ TEST(EndToEnd, TypesAnExpressionSavesTheListAndExits) {
     ASSERT_TRUE(app.process.waitForStarted(10000));
 
     const QString window =
-        XDoTool(display, {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
-                          QStringLiteral("--name"), QStringLiteral("^Tessarondel$")})
-            .section('\n', 0, 0);
+        XDoTool(display, QStringLiteral("search --sync --onlyvisible --name ^Tessarondel$")).section('\n', 0, 0);
     ASSERT_FALSE(window.isEmpty());
-    XDoTool(display, {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
-    XDoTool(display,
-            {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("20"), QStringLiteral("2*(3+4)^2")});
-    XDoTool(display, {QStringLiteral("key"), QStringLiteral("Return"), QStringLiteral("ctrl+s")});
-    XDoTool(display, {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--name"),
-                      QStringLiteral("^Save As$")});
+    XDoTool(display, QStringLiteral("windowfocus --sync ") + window);
+    XDoTool(display, QStringLiteral("type --delay 20 2*(3+4)^2"));
+    XDoTool(display, QStringLiteral("key Return ctrl+s"));
+    XDoTool(display, QStringLiteral("search --sync --name ^Save.As$"));
     const QString exported = home.filePath(QStringLiteral("list.txt"));
-    XDoTool(display, {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("10"), exported});
-    XDoTool(display, {QStringLiteral("key"), QStringLiteral("Return")});
+    XDoTool(display, QStringLiteral("type --delay 10 ") + exported);
+    XDoTool(display, QStringLiteral("key Return"));
     ASSERT_TRUE(WaitFor([&] { return QFile(exported).size() > 0; }, 10000));
     QFile list(exported);
     ASSERT_TRUE(list.open(QIODevice::ReadOnly));
     EXPECT_EQ(list.readAll(), QByteArray("2*(3+4)^2\t98\r\n"));
 
-    XDoTool(display, {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
-    XDoTool(display, {QStringLiteral("key"), QStringLiteral("ctrl+q")});
+    XDoTool(display, QStringLiteral("windowfocus --sync ") + window);
+    XDoTool(display, QStringLiteral("key ctrl+q"));
     ASSERT_TRUE(app.process.waitForFinished(10000));
     EXPECT_EQ(app.process.exitCode(), 0);
     const QString settings = home.filePath(QStringLiteral("config/Tessarondel/Tessarondel.ini"));

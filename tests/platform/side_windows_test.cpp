@@ -123,10 +123,8 @@ TEST(FunctionManagerWindow, ListsTypesSavesAndInsertsFunctions) {
     EXPECT_EQ(h.MainWindowHarness::window.txtIn()->text(), QStringLiteral("Hyp()"));
     EXPECT_EQ(h.MainWindowHarness::window.txtQRef()->toPlainText(),
               QStringLiteral("Function:Hyp(a,b)\nDescription:Hypotenuse"));
-}
 
-TEST(FunctionManagerWindow, EditBoxesAreNamedByTheirLabels) {
-    ManagerHarness h;
+    // The edit boxes are named by their labels.
     const struct {
         FunctionField field;
         const char* name;
