@@ -32,9 +32,9 @@ TEST(ApplyProxySettings, PortIsSixteenBitHalfEvenOrNothingIsStored) {
         const char16_t* port;
         bool applied;
         std::int16_t remotePort;
-    } rows[] = {{u"2.5", true, 2},           {u"3.5", true, 4},         {u"32767", true, 32767},
-                {u"32768", false, 8080},     {u"32767.5", false, 8080}, {u"-32768.5", true, -32768},
-                {u"abc", true, 0},           {u"81x", true, 81}};
+    } rows[] = {{u"2.5", true, 2},       {u"3.5", true, 4},         {u"32767", true, 32767},
+                {u"32768", false, 8080}, {u"32767.5", false, 8080}, {u"-32768.5", true, -32768},
+                {u"abc", true, 0},       {u"81x", true, 81}};
     for (const auto& row : rows) {
         SCOPED_TRACE(ToUtf8(row.port));
         MemorySettingsStore store;
