@@ -104,21 +104,38 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::o
     return options;
 }
 
-// Prints the result as the main window shows it in the chosen base; false
-// when the evaluation failed. A failed base conversion leaves the decimal text.
-// `text` is room for the expression, kept from line to line.
-bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::string& expression, std::u16string& text,
-                      std::ostream& out) {
-    AssignUtf16(text, expression);
-    const std::u16string result = EvaluateExpression(engine, text);
-    const bool good = !engine.ErrorFlag;
-    if (good) {
-        const BaseDisplay display =
-            ShowResultInBase(engine.LastAnswer, result, options.baseIndex, options.complement, engine);
-        out << ToUtf8(display.text.value_or(result)) << '\n';
-    } else {
-        out << "Error: " << ToUtf8(engine.ErrorText) << '\n';
+// Room kept from line to line: the expression's text and the line printed.
+struct LineRoom {
+    std::u16string expression;
+    std::string output;
+};
+
+// The result as the main window shows it in the chosen base. A failed base
+// conversion leaves the decimal text.
+void AppendDisplayText(EngineState& engine, const Options& options, std::u16string_view result, std::string& out) {
+    if (options.baseIndex == BaseIndexDecimal) {
+        AppendUtf8(out, DecimalDisplayText(result));
+        return;
     }
+    const BaseDisplay display = ShowResultInBase(engine.LastAnswer, result, options.baseIndex, options.complement, engine);
+    AppendUtf8(out, display.text ? std::u16string_view(*display.text) : result);
+}
+
+// Prints one line for the expression; false when the evaluation failed.
+bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::string& expression, LineRoom& room,
+                      std::ostream& out) {
+    AssignUtf16(room.expression, expression);
+    const std::u16string result = EvaluateExpression(engine, room.expression);
+    const bool good = !engine.ErrorFlag;
+    room.output.clear();
+    if (good) {
+        AppendDisplayText(engine, options, result, room.output);
+    } else {
+        room.output += "Error: ";
+        AppendUtf8(room.output, engine.ErrorText);
+    }
+    room.output += '\n';
+    out.write(room.output.data(), static_cast<std::streamsize>(room.output.size()));
     return good;
 }
 
@@ -135,14 +152,14 @@ int RunExpressions(const Options& options, const LineReader& readLine, std::ostr
     engine.ErrorBoxTitle = u"Tessarondel Error Information";
     LoadFunctions(engine, options, err);
     bool allGood = true;
-    std::u16string text;
+    LineRoom room;
     if (!options.expressions.empty()) {
         for (const auto& expression : options.expressions) {
-            allGood = EvaluateAndPrint(engine, options, expression, text, out) && allGood;
+            allGood = EvaluateAndPrint(engine, options, expression, room, out) && allGood;
         }
     } else {
         std::string line;
-        while (readLine(line)) allGood = EvaluateAndPrint(engine, options, line, text, out) && allGood;
+        while (readLine(line)) allGood = EvaluateAndPrint(engine, options, line, room, out) && allGood;
     }
     return allGood ? CliAllGood : CliSomeFailed;
 }

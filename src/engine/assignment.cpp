@@ -11,20 +11,18 @@ namespace tessarondel {
 // taken before the right side runs, which may create further variables.
 void Ladder::ParseAssignment(double& value) {
     if (state_.TokenKind == TokenIdentifier) {
-        const std::u16string name = state_.CurrentToken;
+        std::u16string name = state_.CurrentToken;
         const int kind = state_.TokenKind;
         const auto slot = static_cast<std::size_t>(VariableIndex(state_, name));
-        ReadToken(state_);
-        state_.CurrentToken = TrimBlanks(state_.CurrentToken);
+        Advance();
         if (state_.CurrentToken == u"=") {
-            ReadToken(state_);
+            Advance();
             ParseLogical(value);
             state_.VariableTable.at(slot).value = value;
             return;
         }
         state_.TokenStream.PushFront(state_.CurrentToken);
-        state_.CurrentToken = name;
-        state_.TokenKind = kind;
+        SetToken(std::move(name), kind);
     }
     ParseLogical(value);
     if (TrimBlanks(state_.CurrentToken) == u"=") state_.ReportError(SyntaxError);

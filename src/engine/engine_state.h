@@ -131,6 +131,7 @@ struct EngineState final : ErrorSink {
     std::u16string CurrentToken;
     int TokenKind = TokenNone;
     CommaTexts CommaList;
+    std::vector<double> OpenListValues;  // the ladder's stack of the values of open comma lists
 
     // Records an error: the first one of an evaluation sets ErrorFlag (and shows
     // the box when ShowErrorBox is on), the last one decides number and text.

@@ -33,26 +33,38 @@ private:
 
 }  // namespace
 
+void Ladder::Advance() {
+    ReadToken(state_);
+    currentOperator_ = BinaryOperatorOf(state_.CurrentToken);
+}
+
+void Ladder::SetToken(std::u16string token, int kind) {
+    state_.CurrentToken = std::move(token);
+    state_.TokenKind = kind;
+    currentOperator_ = BinaryOperatorOf(state_.CurrentToken);
+}
+
 // The value of a comma list is its last element; every element's 15-digit
 // text goes to CommaList for the function that may stand before the bracket.
 // Lists nest, and an inner list closes before the outer one goes on, so the
-// values of all open lists share one stack.
+// values of all open lists share one stack, kept in the state for its room.
 void Ladder::ParseList(double& value) {
+    std::vector<double>& openListValues = state_.OpenListValues;
     double left = 0;
     double right = 0;
-    const std::size_t first = openListValues_.size();
+    const std::size_t first = openListValues.size();
     ParseAssignment(value);
-    openListValues_.push_back(value);
-    while (state_.CurrentToken == u",") {
+    openListValues.push_back(value);
+    while (currentOperator_ == BinaryOperator::Comma) {
         left = value;
-        ReadToken(state_);
+        Advance();
         ParseAssignment(right);
         ApplyOperator(state_, BinaryOperator::Comma, left, right);
         value = left;
-        openListValues_.push_back(value);
+        openListValues.push_back(value);
     }
-    state_.CommaList.AssignValues(std::span(openListValues_).subspan(first));
-    openListValues_.resize(first);
+    state_.CommaList.AssignValues(std::span(openListValues).subspan(first));
+    openListValues.resize(first);
 }
 
 template <bool (*IsOperator)(BinaryOperator), Ladder::Level Next>
@@ -60,10 +72,9 @@ void Ladder::ParseBinary(double& value) {
     double left = 0;
     double right = 0;
     (this->*Next)(value);
-    for (BinaryOperator op = BinaryOperatorOf(state_.CurrentToken); IsOperator(op);
-         op = BinaryOperatorOf(state_.CurrentToken)) {
+    for (BinaryOperator op = currentOperator_; IsOperator(op); op = currentOperator_) {
         left = value;
-        ReadToken(state_);
+        Advance();
         (this->*Next)(right);
         ApplyOperator(state_, op, left, right);
         value = left;
@@ -80,7 +91,7 @@ void Ladder::ParseUnary(double& value) {
     int minus = 0;
     while (state_.TokenKind == TokenOperator && (state_.CurrentToken == u"-" || state_.CurrentToken == u"+")) {
         if (state_.CurrentToken == u"-") ++minus;
-        ReadToken(state_);
+        Advance();
     }
     ParseCall(value);
     if (minus % 2 == 1) value = -value;
@@ -90,7 +101,7 @@ void Ladder::ParseCall(double& value) {
     ParseBracket(value);
     if (state_.TokenKind != TokenFunction) return;
     const std::u16string name = state_.CurrentToken;
-    ReadToken(state_);
+    Advance();
     ParseBracket(value);
     CallBuiltin(name, value, state_.CommaList, state_.ApproximateBits, state_);
 }
@@ -102,14 +113,14 @@ void Ladder::ParseBracket(double& value) {
     }
     const DepthGuard depth(bracketDepth_);
     double inner = value;
-    ReadToken(state_);
+    Advance();
     ParseList(inner);
     value = inner;
-    if (state_.CurrentToken != u"," && state_.CurrentToken != u")") {
+    if (currentOperator_ != BinaryOperator::Comma && state_.CurrentToken != u")") {
         state_.ReportError(BracketsMismatch);
         return;
     }
-    ReadToken(state_);
+    Advance();
 }
 
 void Ladder::ParsePrimary(double& value) {
@@ -119,13 +130,13 @@ void Ladder::ParsePrimary(double& value) {
                 value = ContainsText(u"$", state_.CurrentToken)
                             ? TextToNumber(BaseLiteralToDecimal(state_.CurrentToken, state_))
                             : TextToNumber(state_.CurrentToken);  // the literal conversion keeps such a token
-                ReadToken(state_);
+                Advance();
                 break;
             case TokenFunction:
                 break;  // the name and its bracket are ParseCall's
             case TokenIdentifier:
                 value = VariableValue(state_, state_.CurrentToken);
-                ReadToken(state_);
+                Advance();
                 break;
             default:
                 state_.ReportError(SyntaxError);

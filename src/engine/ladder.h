@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string_view>
-#include <vector>
 
 #include "engine/engine_state.h"
 #include "engine/operators.h"
@@ -13,7 +12,8 @@ namespace tessarondel {
 // go on with the values they have.
 class Ladder {
 public:
-    explicit Ladder(EngineState& state) : state_(state) {}
+    // Starts at the token that the state holds.
+    explicit Ladder(EngineState& state) : state_(state), currentOperator_(BinaryOperatorOf(state.CurrentToken)) {}
     Ladder(const Ladder&) = delete;
     Ladder& operator=(const Ladder&) = delete;
 
@@ -39,9 +39,14 @@ private:
     template <bool (*IsOperator)(BinaryOperator), Level Next>
     void ParseBinary(double& value);
 
+    // Reads the next token. Every level asks whether the token is its
+    // operator, so the operator is looked up once per token.
+    void Advance();
+    void SetToken(std::u16string token, int kind);
+
     EngineState& state_;
+    BinaryOperator currentOperator_;
     int bracketDepth_ = 0;
-    std::vector<double> openListValues_;  // the values of every open comma list
 };
 
 }  // namespace tessarondel

@@ -50,8 +50,11 @@ std::u16string ToUtf16(std::string_view utf8) {
 void AssignUtf16(std::u16string& out, std::string_view utf8) {
     // No sequence gives more 16-bit units than it has bytes.
     out.resize(utf8.size());
-    std::size_t n = 0;
-    for (std::size_t i = 0; i < utf8.size();) {
+    // Typed expressions are nearly always ASCII: widen that front in one go.
+    const auto asciiEnd = std::find_if(utf8.begin(), utf8.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    std::copy(utf8.begin(), asciiEnd, out.begin());
+    std::size_t n = static_cast<std::size_t>(asciiEnd - utf8.begin());
+    for (std::size_t i = n; i < utf8.size();) {
         if (static_cast<unsigned char>(utf8[i]) < 0x80) {
             out[n++] = static_cast<char16_t>(utf8[i++]);
             continue;
@@ -94,12 +97,17 @@ void AppendUtf8(std::string& out, char32_t cp) {
 }
 
 std::string ToUtf8(std::u16string_view utf16) {
+    std::string out;
+    AppendUtf8(out, utf16);
+    return out;
+}
+
+void AppendUtf8(std::string& out, std::u16string_view utf16) {
     // Results and messages are nearly always ASCII: one copy.
     if (std::all_of(utf16.begin(), utf16.end(), [](char16_t c) { return c < 0x80; })) {
-        return std::string(utf16.begin(), utf16.end());
+        out.append(utf16.begin(), utf16.end());
+        return;
     }
-    std::string out;
-    out.reserve(utf16.size() + 8);
     for (std::size_t i = 0; i < utf16.size(); ++i) {
         char32_t cp = utf16[i];
         if (cp >= 0xD800 && cp <= 0xDBFF && i + 1 < utf16.size() && utf16[i + 1] >= 0xDC00 && utf16[i + 1] <= 0xDFFF) {
@@ -110,7 +118,6 @@ std::string ToUtf8(std::u16string_view utf16) {
         }
         AppendUtf8(out, cp);
     }
-    return out;
 }
 
 }  // namespace tessarondel

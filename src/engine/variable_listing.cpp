@@ -1,5 +1,7 @@
 #include "engine/variable_listing.h"
 
+#include <algorithm>
+
 #include "engine/engine_state.h"
 #include "numbers/number_text.h"
 
@@ -8,7 +10,9 @@ namespace tessarondel {
 void VariableListingText::Take(std::u16string_view names, const std::vector<VariableSlot>& table) {
     const std::size_t count = table.empty() ? 0 : table.size() - 1;  // slot 0 is never used
     bool changed = false;
-    if (lines_.size() != count || names != names_) {
+    // std::equal compares the names' memory at once, where == goes character by character.
+    const bool sameNames = names.size() == names_.size() && std::equal(names.begin(), names.end(), names_.begin());
+    if (lines_.size() != count || !sameNames) {
         names_ = names;
         lines_.resize(count);
         for (std::size_t i = 0; i < count; ++i) lines_[i].name = table[i + 1].name;

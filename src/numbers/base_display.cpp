@@ -60,12 +60,14 @@ std::optional<std::u16string> BaseText(double lastValue, int index, bool complem
 
 }  // namespace
 
+std::u16string_view DecimalDisplayText(std::u16string_view resultText) {
+    const std::u16string_view trimmed = TrimBlanks(resultText);
+    return trimmed.empty() ? u"0" : trimmed;
+}
+
 BaseDisplay ShowResultInBase(double lastValue, std::u16string_view resultText, int index, bool complementChecked,
                              ErrorSink& errors) {
-    if (index == BaseIndexDecimal) {
-        const std::u16string_view trimmed = TrimBlanks(resultText);
-        return {trimmed.empty() ? u"0" : std::u16string(trimmed), false};
-    }
+    if (index == BaseIndexDecimal) return {std::u16string(DecimalDisplayText(resultText)), false};
     if (index < BaseIndexBinary || index > BaseIndexHexadecimal) return {std::nullopt, true};
     return {BaseText(lastValue, index, complementChecked, errors), true};
 }

@@ -25,6 +25,9 @@ struct BaseDisplay {
     bool complementBoxVisible = true;
 };
 
+// The decimal display: `resultText` trimmed, "0" when empty.
+std::u16string_view DecimalDisplayText(std::u16string_view resultText);
+
 // The text of the result display for the base `index` (0 binary, 1 decimal,
 // 2 octal, 3 hexadecimal): decimal shows `resultText` trimmed ("0" when
 // empty); the other bases show `lastValue` as a literal that reads back
