@@ -114,29 +114,33 @@ void ReplacePercentSigns(std::u16string& src) {
 
 // A replacement sends the scan back to the start; the words in front of it are
 // no operators (or they would have been replaced) and end where they ended, so
-// the scan goes on behind the replacement instead.
+// the scan goes on behind the replacement instead. Every operator text is
+// shorter than its word, so the text is rewritten in place from the front.
 void ReplaceWordOperators(std::u16string& src) {
-    std::u16string out;
-    std::size_t copied = 0;  // src up to here is in out
+    std::size_t out = 0;  // the rewritten text ends here; it equals i until a replacement
     std::size_t i = 0;
+    const auto keep = [&](std::size_t end) {
+        if (out != i) std::char_traits<char16_t>::move(src.data() + out, src.data() + i, end - i);
+        out += end - i;
+        i = end;
+    };
     while (i < src.size()) {
-        if (!IsLetterChar(src[i])) {
-            ++i;
-            continue;
-        }
         std::size_t end = i;
         while (end < src.size() && IsLetterChar(src[end])) ++end;
-        const std::u16string_view replacement = WordOperatorText(std::u16string_view(src).substr(i, end - i));
-        if (!replacement.empty()) {
-            out.append(src, copied, i - copied);
-            out += replacement;
-            copied = end;
+        if (end == i) {
+            keep(i + 1);
+            continue;
         }
+        const std::u16string_view replacement = WordOperatorText(std::u16string_view(src).substr(i, end - i));
+        if (replacement.empty()) {
+            keep(end);
+            continue;
+        }
+        std::copy(replacement.begin(), replacement.end(), src.begin() + static_cast<std::ptrdiff_t>(out));
+        out += replacement.size();
         i = end;
     }
-    if (copied == 0) return;
-    out.append(src, copied, std::u16string::npos);
-    src = std::move(out);
+    src.resize(out);
 }
 
 void InsertSignZeros(std::u16string& src) {

@@ -10,6 +10,7 @@ CommaTexts::CommaTexts(std::vector<std::u16string> texts) : texts_(std::move(tex
 
 void CommaTexts::AssignValues(std::span<const double> values) {
     values_.assign(values.begin(), values.end());
+    holdsValues_ = true;
     textsPending_ = true;
     allocated_ = true;
 }
@@ -25,6 +26,12 @@ const std::u16string& CommaTexts::operator[](long index) const {
         throw RunFailure("index out of range");
     }
     return texts[static_cast<std::size_t>(index)];
+}
+
+double CommaTexts::Value(long index) const {
+    if (!holdsValues_) return TextToNumber((*this)[index]);
+    if (index < 0 || static_cast<std::size_t>(index) >= values_.size()) throw RunFailure("index out of range");
+    return FifteenDigitCopy(values_[static_cast<std::size_t>(index)]);
 }
 
 const std::vector<std::u16string>& CommaTexts::Items() const {

@@ -24,11 +24,15 @@ public:
     long UpperBound() const;
     const std::u16string& operator[](long index) const;
     const std::vector<std::u16string>& Items() const;
+    // The element's text read as a number. A list of values reads the value
+    // rounded to 15 digits, which is what its text gives, without writing it.
+    double Value(long index) const;
 
 private:
     void WriteTexts() const;
 
     std::vector<double> values_;
+    bool holdsValues_ = false;
     mutable std::vector<std::u16string> texts_;
     mutable bool textsPending_ = false;
     bool allocated_ = false;

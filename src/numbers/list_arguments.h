@@ -8,7 +8,7 @@ namespace tessarondel {
 
 inline long ElementCount(const CommaTexts& list) { return list.UpperBound() + 1; }
 
-inline double ElementValue(const CommaTexts& list, long index) { return TextToNumber(list[index]); }
+inline double ElementValue(const CommaTexts& list, long index) { return list.Value(index); }
 
 // The optional second argument of a one-or-two argument function: `fallback`
 // for one element; for more than two, error 5 and the function goes on with 0.

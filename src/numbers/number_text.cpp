@@ -371,7 +371,8 @@ double FifteenDigitCopy(double x) {
     int scale = 0;
     // Both operands exact, so the quotient is the correctly rounded value of
     // the decimal, which is what reading the text gives.
-    if (RoundToFifteenDigits(x, digits, scale) && scale <= MaxExactPowerOfTen) {
+    // Just under 1E+15 the rounding carries into a negative scale; those take the long way.
+    if (RoundToFifteenDigits(x, digits, scale) && scale >= 0 && scale <= MaxExactPowerOfTen) {
         const double magnitude = static_cast<double>(digits) / PowersOfTen[static_cast<std::size_t>(scale)];
         return x < 0 ? -magnitude : magnitude;
     }

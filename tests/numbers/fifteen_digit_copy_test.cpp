@@ -25,7 +25,8 @@ void ExpectSameAsTheDisplayTextRoute(double x) {
 }
 
 TEST(FifteenDigitCopy, EqualsTheDisplayTextReadBack) {
-    for (const double x : {0.0, -0.0, PiValue, 3 * PiValue / 2, 0.1 + 0.2, 1E-15, 1E-16, 1E+15, 9.88131291682493E-14,
+    for (const double x : {0.0, -0.0, PiValue, 3 * PiValue / 2, 0.1 + 0.2, 1E-15, 1E-16, 1E+15, 999999999999999.9, -99.999999999999999,
+                           9.88131291682493E-14,
                            123456789012345678.0, -BigValue, std::numeric_limits<double>::denorm_min(), -1E-320,
                            std::numeric_limits<double>::min(), 1.4999999999999999, 0.999999999999999944}) {
         ExpectSameAsTheDisplayTextRoute(x);
