@@ -127,6 +127,7 @@ struct EngineState final : ErrorSink {
     std::u16string CustomFunctionNames;  // "{hyp}{area}"
 
     std::u16string ExpressionCopy;  // EvaluateText's working copy of the expression
+    std::u16string SpareText;       // room that a pass of the token stream may swap with its text
     TokenStreamText TokenStream;
     std::u16string CurrentToken;
     int TokenKind = TokenNone;

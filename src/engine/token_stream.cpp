@@ -80,8 +80,7 @@ void ReplaceCharactersInPlace(std::u16string& src, std::size_t grown, Replacemen
 // The passes behind the custom expansion; false when one of them stops the build.
 bool RewriteAndCheck(EngineState& state, std::u16string& src, bool expanded) {
     ScanExponents(state, src);
-    ReplacePercentSigns(src);
-    ReplaceWordOperators(src);
+    ReplacePercentSignsAndWordOperators(src, state.SpareText);
     if (HasAdjacentBrackets(src)) {
         state.ReportError(SyntaxError);
         return false;
@@ -104,43 +103,41 @@ bool RewriteAndCheck(EngineState& state, std::u16string& src, bool expanded) {
 
 }  // namespace
 
-void ReplacePercentSigns(std::u16string& src) {
+// Percent signs become "*(0.01)", then the word operators their symbols. The
+// replacement of a percent sign holds no letter, so the words are the same
+// before and after it, and the symbols come after the percent signs are gone;
+// one pass from the front therefore does both. A word replacement sends the
+// scan back to the start; the words in front of it are no operators (or they
+// would have been replaced) and end where they ended, so the scan goes on
+// behind the replacement instead.
+void ReplacePercentSignsAndWordOperators(std::u16string& src, std::u16string& room) {
     constexpr std::u16string_view Hundredth = u"*(0.01)";
-    const auto signs = static_cast<std::size_t>(std::count(src.begin(), src.end(), u'%'));
-    if (signs == 0) return;
-    ReplaceCharactersInPlace(src, signs * (Hundredth.size() - 1),
-                             [&](std::size_t i) { return src[i] == u'%' ? Hundredth : std::u16string_view(); });
-}
-
-// A replacement sends the scan back to the start; the words in front of it are
-// no operators (or they would have been replaced) and end where they ended, so
-// the scan goes on behind the replacement instead. Every operator text is
-// shorter than its word, so the text is rewritten in place from the front.
-void ReplaceWordOperators(std::u16string& src) {
-    std::size_t out = 0;  // the rewritten text ends here; it equals i until a replacement
-    std::size_t i = 0;
-    const auto keep = [&](std::size_t end) {
-        if (out != i) std::char_traits<char16_t>::move(src.data() + out, src.data() + i, end - i);
-        out += end - i;
-        i = end;
+    const std::u16string_view text = src;
+    std::size_t copied = 0;  // text up to here is in room
+    const auto replace = [&](std::size_t from, std::size_t to, std::u16string_view replacement) {
+        if (copied == 0) room.clear();
+        room.append(text.substr(copied, from - copied)).append(replacement);
+        copied = to;
     };
-    while (i < src.size()) {
-        std::size_t end = i;
-        while (end < src.size() && IsLetterChar(src[end])) ++end;
-        if (end == i) {
-            keep(i + 1);
+    for (std::size_t i = 0; i < text.size();) {
+        if (text[i] == u'%') {
+            replace(i, i + 1, Hundredth);
+            ++i;
             continue;
         }
-        const std::u16string_view replacement = WordOperatorText(std::u16string_view(src).substr(i, end - i));
-        if (replacement.empty()) {
-            keep(end);
+        if (!IsLetterChar(text[i])) {
+            ++i;
             continue;
         }
-        std::copy(replacement.begin(), replacement.end(), src.begin() + static_cast<std::ptrdiff_t>(out));
-        out += replacement.size();
+        std::size_t end = i + 1;
+        while (end < text.size() && IsLetterChar(text[end])) ++end;
+        const std::u16string_view replacement = WordOperatorText(text.substr(i, end - i));
+        if (!replacement.empty()) replace(i, end, replacement);
         i = end;
     }
-    src.resize(out);
+    if (copied == 0) return;
+    room.append(text.substr(copied));
+    src.swap(room);
 }
 
 void InsertSignZeros(std::u16string& src) {

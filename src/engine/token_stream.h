@@ -15,8 +15,8 @@ namespace tessarondel {
 std::u16string BuildTokenStream(EngineState& state, std::u16string_view source, std::u16string storage = {});
 
 // The passes of BuildTokenStream, in their order, rewriting in place.
-void ReplacePercentSigns(std::u16string& src);
-void ReplaceWordOperators(std::u16string& src);
+// `room` is spare storage that the pass may swap with `src`.
+void ReplacePercentSignsAndWordOperators(std::u16string& src, std::u16string& room);
 // Checks and rewrites every token; false after an error that stops the build.
 bool RunTokenPass(EngineState& state, std::u16string& src);
 void InsertSignZeros(std::u16string& src);

@@ -85,9 +85,16 @@ TEST(LinearPasses, ExponentScanMatchesTheLiteralScan) {
     EXPECT_GT(Compare(linear, literal, RandomTexts(20261122, kPieces, 24), u"", rewritten), kRounds / 10);
 }
 
-TEST(LinearPasses, WordOperatorPassMatchesTheRestartingPass) {
-    const Pass linear = [](EngineState&, std::u16string& text) { return ReplaceWordOperators(text), true; };
+TEST(LinearPasses, PercentAndWordOperatorPassMatchesTheRestartingPasses) {
+    std::u16string room;  // kept from text to text, as the engine keeps it
+    const Pass linear = [&room](EngineState&, std::u16string& text) {
+        return ReplacePercentSignsAndWordOperators(text, room), true;
+    };
+    // Percent signs one by one, then the restarting word operator pass.
     const Pass literal = [](EngineState&, std::u16string& text) {
+        for (std::size_t at = text.find(u'%'); at != std::u16string::npos; at = text.find(u'%', at)) {
+            text.replace(at, 1, u"*(0.01)");
+        }
         return text = literal::ReplaceWordOperators(text), true;
     };
     EXPECT_EQ(Compare(linear, literal, RandomTexts(7, kPieces, 24), u"", Completed), kRounds);

@@ -142,7 +142,8 @@ TEST(TextRewrites, PercentSignsAndSignZeros) {
     for (const Row& row : rows) {
         SCOPED_TRACE(ToUtf8(row.text));
         std::u16string percent = row.text;
-        ReplacePercentSigns(percent);
+        std::u16string room;
+        ReplacePercentSignsAndWordOperators(percent, room);
         EXPECT_EQ(ToUtf8(percent), ToUtf8(row.percent));
         std::u16string signs = row.text;
         InsertSignZeros(signs);
