@@ -24,27 +24,26 @@ void BlankTabsAndLineEnds(std::u16string& src) {
     src.resize(out);
 }
 
-// ")(" in the text with its blanks removed.
-bool HasAdjacentBrackets(std::u16string_view src) {
-    char16_t previous = u' ';
-    for (const char16_t c : src) {
-        if (c == u' ') continue;
-        if (previous == u')' && c == u'(') return true;
-        previous = c;
+// Whether `test` holds for the character behind any ")" in the text with its
+// blanks removed.
+template <typename Test>
+bool AnyBehindClosingBracket(std::u16string_view src, Test test) {
+    for (std::size_t at = src.find(u')'); at != std::u16string_view::npos; at = src.find(u')', at + 1)) {
+        const std::size_t behind = src.find_first_not_of(u' ', at + 1);
+        if (behind != std::u16string_view::npos && test(src[behind])) return true;
     }
     return false;
+}
+
+// ")(" in the text with its blanks removed.
+bool HasAdjacentBrackets(std::u16string_view src) {
+    return AnyBehindClosingBracket(src, [](char16_t c) { return c == u'('; });
 }
 
 // There is no implied multiplication: in the text with its blanks removed, a
 // non-delimiter right behind ")" is an error.
 bool HasNameBehindBracket(std::u16string_view src) {
-    char16_t previous = u' ';
-    for (const char16_t c : src) {
-        if (c == u' ') continue;
-        if (previous == u')' && !IsDelimiterChar(c)) return true;
-        previous = c;
-    }
-    return false;
+    return AnyBehindClosingBracket(src, [](char16_t c) { return !IsDelimiterChar(c); });
 }
 
 constexpr std::u16string_view WordOperatorNames[] = {u"and", u"xor", u"eqv", u"mod", u"div", u"or", u"imp"};
@@ -141,11 +140,13 @@ void ReplacePercentSignsAndWordOperators(std::u16string& src, std::u16string& ro
 }
 
 void InsertSignZeros(std::u16string& src) {
-    const auto needsZero = [&](std::size_t i) {
-        return (src[i] == u'+' || src[i] == u'-') && (i == 0 || src[i - 1] == u'(');
-    };
-    std::size_t zeros = 0;
-    for (std::size_t i = 0; i < src.size(); ++i) zeros += needsZero(i) ? 1 : 0;
+    const auto isSign = [](char16_t c) { return c == u'+' || c == u'-'; };
+    const auto needsZero = [&](std::size_t i) { return isSign(src[i]) && (i == 0 || src[i - 1] == u'('); };
+    // A sign needs a zero at the start or behind "(", so only those places are looked at.
+    std::size_t zeros = !src.empty() && isSign(src[0]) ? 1 : 0;
+    for (std::size_t at = src.find(u'('); at != std::u16string::npos; at = src.find(u'(', at + 1)) {
+        zeros += at + 1 < src.size() && isSign(src[at + 1]) ? 1 : 0;
+    }
     if (zeros == 0) return;
     ReplaceCharactersInPlace(src, zeros, [&](std::size_t i) {
         if (!needsZero(i)) return std::u16string_view();

@@ -100,9 +100,6 @@ bool BuildReplacement(EngineState& state, const std::u16string& token, std::u16s
 // creates no variables; it stops where the reader stops, and the empty token
 // it ends on is tested as well. Error 3 of the reader is reported here.
 std::optional<std::u16string_view> FindCustomName(EngineState& state, std::u16string_view text) {
-    // Without custom functions the walk finds nothing, and it reports only
-    // where a token starts with a character that the reader cannot read.
-    if (state.CustomFunctionNames.empty() && IsReadToTheEnd(text)) return std::nullopt;
     std::u16string_view rest = text;
     while (true) {
         rest = TrimBlanks(rest);
@@ -156,6 +153,9 @@ bool IsCustomFunctionName(const EngineState& state, std::u16string_view token) {
 }
 
 std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text) {
+    // Without custom functions the walk finds nothing, and it reports only
+    // where a token starts with a character that the reader cannot read.
+    if (state.CustomFunctionNames.empty() && IsReadToTheEnd(text)) return text;
     // Keeps its contents from one call to the next in this pass: an empty call
     // after a good one passes the bound test and is refused by its blankness.
     SlotList<std::u16string> arguments;
