@@ -92,7 +92,6 @@ private:
 
 void ScanExponents(EngineState& state, std::u16string& src) {
     TrimBlanksInPlace(src);
-    LowerAsciiInPlace(src);
     if (src.find(u'e') == std::u16string::npos) return;
     // A failure leaves the trimmed text.
     RunIgnoringFailures([&] { src = ExponentScan(state, src).Run(); });

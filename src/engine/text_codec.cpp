@@ -105,7 +105,10 @@ std::string ToUtf8(std::u16string_view utf16) {
 void AppendUtf8(std::string& out, std::u16string_view utf16) {
     // Results and messages are nearly always ASCII: one copy.
     if (std::all_of(utf16.begin(), utf16.end(), [](char16_t c) { return c < 0x80; })) {
-        out.append(utf16.begin(), utf16.end());
+        const std::size_t start = out.size();
+        out.resize(start + utf16.size());
+        std::transform(utf16.begin(), utf16.end(), out.begin() + static_cast<std::ptrdiff_t>(start),
+                       [](char16_t c) { return static_cast<char>(c); });
         return;
     }
     for (std::size_t i = 0; i < utf16.size(); ++i) {

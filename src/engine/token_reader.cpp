@@ -1,7 +1,6 @@
 #include "engine/token_reader.h"
 
 #include <algorithm>
-#include <array>
 
 #include "engine/errors.h"
 #include "engine/name_lists.h"
@@ -60,16 +59,7 @@ TokenShape ShapeOfToken(std::u16string_view rest) {
     return {};  // unreadable: looks like the end of the stream
 }
 
-bool IsReadToTheEnd(std::u16string_view text) {
-    constexpr std::array<bool, 128> Readable = [] {
-        std::array<bool, 128> readable{};
-        for (char16_t c = 0; c < 128; ++c) {
-            readable[c] = c == u' ' || IsLetterChar(c) || IsDigitChar(c) || IsOperatorText(std::u16string_view(&c, 1));
-        }
-        return readable;
-    }();
-    return std::all_of(text.begin(), text.end(), [&](char16_t c) { return c < 128 && Readable[c]; });
-}
+bool IsReadToTheEnd(std::u16string_view text) { return std::all_of(text.begin(), text.end(), IsReadableChar); }
 
 void ReadToken(EngineState& state) {
     state.TokenKind = TokenNone;

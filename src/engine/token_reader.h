@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "engine/engine_state.h"
+#include "engine/name_lists.h"
 
 namespace tessarondel {
 
@@ -21,8 +22,11 @@ struct TokenShape {
 };
 TokenShape ShapeOfToken(std::u16string_view rest);
 
-// True when every character is a blank, a letter, a digit, the point or a
-// one-character operator: the reader then reads the text to its end.
+// A blank, a letter, a digit, the point or a one-character operator.
+constexpr bool IsReadableChar(char16_t c) {
+    return c == u' ' || IsLetterChar(c) || IsDigitChar(c) || IsOperatorText(std::u16string_view(&c, 1));
+}
+// True when every character is readable: the reader then reads the text to its end.
 bool IsReadToTheEnd(std::u16string_view text);
 
 // Membership in the built-in, alias or custom function name lists, untrimmed.

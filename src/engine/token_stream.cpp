@@ -1,16 +1,41 @@
 #include "engine/token_stream.h"
 
 #include <algorithm>
+#include <array>
 
 #include "customfunctions/engine/call_expansion.h"
 #include "engine/errors.h"
 #include "engine/exponent_scan.h"
 #include "engine/name_lists.h"
+#include "engine/token_reader.h"
 #include "numbers/text_rules.h"
 
 namespace tessarondel {
 
 namespace {
+
+// What the first passes need to know of a source, from one look at each character.
+struct SourceSurvey {
+    bool upperCase = false;
+    bool tabOrReturn = false;
+    bool readable = true;  // every character readable once tabs are blanks (a CR counts as unreadable)
+};
+
+SourceSurvey Survey(std::u16string_view src) {
+    enum : unsigned char { UpperCase = 1, TabOrReturn = 2, Unreadable = 4 };
+    constexpr auto Classes = [] {
+        std::array<unsigned char, 128> classes{};
+        for (char16_t c = 0; c < classes.size(); ++c) {
+            if (c >= u'A' && c <= u'Z') classes[c] |= UpperCase;
+            if (c == u'\t' || c == u'\r') classes[c] |= TabOrReturn;
+            if (!IsReadableChar(c) && c != u'\t') classes[c] |= Unreadable;
+        }
+        return classes;
+    }();
+    unsigned found = 0;
+    for (const char16_t c : src) found |= c < Classes.size() ? Classes[c] : unsigned{Unreadable};
+    return {(found & UpperCase) != 0, (found & TabOrReturn) != 0, (found & Unreadable) == 0};
+}
 
 // Tabs, and CR LF pairs, become one blank each; a lone CR or LF stays.
 void BlankTabsAndLineEnds(std::u16string& src) {
@@ -78,6 +103,8 @@ void ReplaceCharactersInPlace(std::u16string& src, std::size_t grown, Replacemen
 
 // The passes behind the custom expansion; false when one of them stops the build.
 bool RewriteAndCheck(EngineState& state, std::u16string& src, bool expanded) {
+    // The source was lowered; only an expanded body can bring upper case back.
+    if (expanded) LowerAsciiInPlace(src);
     ScanExponents(state, src);
     ReplacePercentSignsAndWordOperators(src, state.SpareText);
     if (HasAdjacentBrackets(src)) {
@@ -161,10 +188,13 @@ std::u16string BuildTokenStream(EngineState& state, std::u16string_view source, 
         std::u16string src = std::move(storage);
         src.reserve(2 * source.size() + 16);
         src.assign(source);
-        LowerAsciiInPlace(src);
-        BlankTabsAndLineEnds(src);
+        const SourceSurvey survey = Survey(src);
+        if (survey.upperCase) LowerAsciiInPlace(src);
+        if (survey.tabOrReturn) BlankTabsAndLineEnds(src);
+        // Without custom functions the expansion walk finds nothing, and it
+        // reports only where a token starts with a character the reader cannot read.
         const bool expands = !state.CustomFunctionNames.empty();
-        src = ExpandCustomFunctionCalls(state, std::move(src));
+        if (expands || !survey.readable) src = ExpandCustomFunctionCalls(state, std::move(src));
         if (RewriteAndCheck(state, src, expands)) result = std::move(src);
     });
     return result;

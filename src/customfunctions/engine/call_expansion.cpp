@@ -153,9 +153,6 @@ bool IsCustomFunctionName(const EngineState& state, std::u16string_view token) {
 }
 
 std::u16string ExpandCustomFunctionCalls(EngineState& state, std::u16string text) {
-    // Without custom functions the walk finds nothing, and it reports only
-    // where a token starts with a character that the reader cannot read.
-    if (state.CustomFunctionNames.empty() && IsReadToTheEnd(text)) return text;
     // Keeps its contents from one call to the next in this pass: an empty call
     // after a good one passes the bound test and is refused by its blankness.
     SlotList<std::u16string> arguments;
