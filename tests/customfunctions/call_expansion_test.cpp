@@ -46,6 +46,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ExpansionRow{"EmptyCallFirstInThePass", u"j()", u"j()", 99, true},
                       ExpansionRow{"EmptyCallAfterAGoodOne", u"j(1)+j()", u"((1)+1)+j()", 5, true},
                       ExpansionRow{"EmptyArgument", u"jj(1,,2)", u"jj(1,,2)", 5, true},
+                      ExpansionRow{"BlankArgumentOfTheRightCount", u"jj(1, )", u"jj(1, )", 5, true},
                       ExpansionRow{"WrongCount", u"j(1,2)", u"j(1,2)", 5, true},
                       ExpansionRow{"NestedCommasStayTogether", u"jj(max(1,2),3)", u"((max(1,2))*(3))", 99, false},
                       ExpansionRow{"LeftmostFirstThenRestart", u"jj(j(1),2)", u"((((1)+1))*(2))", 99, false},
