@@ -4,36 +4,16 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "engine/engine.h"
 #include "engine/text_codec.h"
+#include "memory_document_store.h"
 
 namespace tessarondel {
 namespace {
 
+using testing::MemoryDocumentStore;
+
 std::string U8(std::u16string_view text) { return ToUtf8(text); }
-
-class MemoryDocumentStore final : public FunctionDocumentStore {
-public:
-    FolderReadResult LoadAll() override { return loaded; }
-    bool Write(const CustomFunctionDocument& document) override {
-        if (failWrites) return false;
-        written[document.Name] = document;
-        return true;
-    }
-    bool Delete(std::u16string_view name) override {
-        if (failDeletes) return false;
-        deleted.emplace_back(name);
-        return true;
-    }
-
-    FolderReadResult loaded;
-    bool failWrites = false;
-    bool failDeletes = false;
-    std::map<std::u16string, CustomFunctionDocument> written;
-    std::vector<std::u16string> deleted;
-};
 
 // Records the boxes as "text | title" and answers every question alike.
 class RecordingHost final : public FunctionManagerHost {

@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QTreeView>
 
+#include "customfunctions/memory_document_store.h"
 #include "platform/function_manager_window.h"
 #include "platform/proxy_dialog.h"
 #include "platform/text_table_model.h"
@@ -72,26 +73,13 @@ TEST(VariableWindow, CloseHidesAndUnchecksTheMainWindowsSwitch) {
     EXPECT_EQ(h.variables.minimumHeight(), TwipScale::For(&h.variables).ToPixels(4410 - FrameHeightTwips));
 }
 
-// Documents in memory, so the manager's tests touch no folder.
-class MemoryDocuments final : public FunctionDocumentStore {
-public:
-    FolderReadResult LoadAll() override { return {documents, false}; }
-    bool Write(const CustomFunctionDocument& document) override {
-        written.push_back(document);
-        return true;
-    }
-    bool Delete(std::u16string_view) override { return true; }
-    std::vector<CustomFunctionDocument> documents;
-    std::vector<CustomFunctionDocument> written;
-};
-
 struct ManagerHarness : MainWindowHarness {
     ManagerHarness() {
-        documents.documents.push_back({u"Hyp", u"a,b", u"sqrt(a^2+b^2)", u"Hypotenuse"});
+        documents.loaded.documents.push_back({u"Hyp", u"a,b", u"sqrt(a^2+b^2)", u"Hypotenuse"});
         manager.SetListener([this](FunctionManagerChange change) { window.Apply(change); });
         manager.Load();
     }
-    MemoryDocuments documents;
+    testing::MemoryDocumentStore documents;
     ShellFunctionManagerHost host{model, box};
     FunctionManagerModel manager{engine, documents, host};
     FunctionManagerWindow window{manager};
@@ -112,7 +100,7 @@ TEST(FunctionManagerWindow, ListsTypesSavesAndInsertsFunctions) {
     QTest::keyClicks(h.window.Field(FunctionField::Expression), QStringLiteral("n*2"));
     QTest::mouseClick(h.window.Button(ManagerButton::Ok), Qt::LeftButton);
     ASSERT_EQ(h.documents.written.size(), 1u);
-    EXPECT_EQ(h.documents.written[0].Name, u"twice");
+    EXPECT_EQ(h.documents.written.begin()->second.Name, u"twice");
     EXPECT_EQ(h.window.Rows()->rowCount(), 2);
     EXPECT_TRUE(static_cast<QLineEdit*>(h.window.Field(FunctionField::Name))->isReadOnly());
     Evaluate(h, QStringLiteral("twice(21)"));
