@@ -77,7 +77,7 @@ std::u16string EvaluateExpression(EngineState& state, std::u16string& expression
             return;
         }
         // Everything behind the first apostrophe is a note, across line ends too.
-        const std::u16string_view code = std::u16string_view(expression).substr(0, expression.find(u'\''));
+        const std::u16string_view code = std::u16string_view(expression).substr(0, FindChar(expression, u'\''));
         if (TrimBlanks(code).empty()) {
             state.LastAnswer = 0;
             result = NoteLineResult;

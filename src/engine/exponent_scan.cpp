@@ -22,7 +22,7 @@ public:
 
     std::u16string Run() {
         while (true) {
-            const std::size_t e = source_.find(u'e', next_);
+            const std::size_t e = FindChar(source_, u'e', next_);
             if (e == std::u16string_view::npos) break;
             CopyUpTo(e);
             if (!AtExponent()) {
@@ -40,10 +40,9 @@ private:
     std::size_t Length() const { return done_.size() + (source_.size() - next_); }
 
     void CopyUpTo(std::size_t end) {
-        const auto first = source_.begin() + static_cast<std::ptrdiff_t>(next_);
-        const auto last = source_.begin() + static_cast<std::ptrdiff_t>(end);
-        dollarBehind_ = dollarBehind_ || std::find(first, last, u'$') != last;
-        done_.append(first, last);
+        const std::u16string_view piece = source_.substr(next_, end - next_);
+        dollarBehind_ = dollarBehind_ || FindChar(piece, u'$') != std::u16string_view::npos;
+        done_.append(piece);
         next_ = end;
     }
 
@@ -92,7 +91,7 @@ private:
 
 void ScanExponents(EngineState& state, std::u16string& src) {
     TrimBlanksInPlace(src);
-    if (src.find(u'e') == std::u16string::npos) return;
+    if (FindChar(src, u'e') == std::u16string::npos) return;
     // A failure leaves the trimmed text.
     RunIgnoringFailures([&] { src = ExponentScan(state, src).Run(); });
 }

@@ -127,7 +127,7 @@ void Ladder::ParsePrimary(double& value) {
     RunWithFailureHandler(state_, [&] {
         switch (state_.TokenKind) {
             case TokenNumber:
-                value = ContainsText(u"$", state_.CurrentToken)
+                value = FindChar(state_.CurrentToken, u'$') != std::u16string::npos
                             ? TextToNumber(BaseLiteralToDecimal(state_.CurrentToken, state_))
                             : TextToNumber(state_.CurrentToken);  // the literal conversion keeps such a token
                 Advance();

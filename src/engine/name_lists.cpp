@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "engine/name_table.h"
+#include "numbers/text_rules.h"
 
 namespace tessarondel {
 
@@ -69,8 +70,13 @@ unsigned ListsHolding(std::u16string_view name) {
 std::size_t FindBracedName(std::u16string_view name, std::u16string_view list) {
     if (name.empty()) return list.find(u"{}");
     // Each match of the name must have "{" before it and "}" behind it.
-    for (std::size_t at = list.find(name, 1); at != std::u16string_view::npos; at = list.find(name, at + 1)) {
-        if (list[at - 1] == u'{' && at + name.size() < list.size() && list[at + name.size()] == u'}') return at - 1;
+    // The places of the name's first character, each tested for the whole name.
+    for (std::size_t at = FindChar(list, name[0], 1); at != std::u16string_view::npos;
+         at = FindChar(list, name[0], at + 1)) {
+        if (list[at - 1] == u'{' && at + name.size() < list.size() && list[at + name.size()] == u'}' &&
+            list.substr(at, name.size()) == name) {
+            return at - 1;
+        }
     }
     return std::u16string_view::npos;
 }

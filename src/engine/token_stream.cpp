@@ -53,7 +53,7 @@ void BlankTabsAndLineEnds(std::u16string& src) {
 // blanks removed.
 template <typename Test>
 bool AnyBehindClosingBracket(std::u16string_view src, Test test) {
-    for (std::size_t at = src.find(u')'); at != std::u16string_view::npos; at = src.find(u')', at + 1)) {
+    for (std::size_t at = FindChar(src, u')'); at != std::u16string_view::npos; at = FindChar(src, u')', at + 1)) {
         const std::size_t behind = src.find_first_not_of(u' ', at + 1);
         if (behind != std::u16string_view::npos && test(src[behind])) return true;
     }
@@ -171,7 +171,7 @@ void InsertSignZeros(std::u16string& src) {
     const auto needsZero = [&](std::size_t i) { return isSign(src[i]) && (i == 0 || src[i - 1] == u'('); };
     // A sign needs a zero at the start or behind "(", so only those places are looked at.
     std::size_t zeros = !src.empty() && isSign(src[0]) ? 1 : 0;
-    for (std::size_t at = src.find(u'('); at != std::u16string::npos; at = src.find(u'(', at + 1)) {
+    for (std::size_t at = FindChar(src, u'('); at != std::u16string::npos; at = FindChar(src, u'(', at + 1)) {
         zeros += at + 1 < src.size() && isSign(src[at + 1]) ? 1 : 0;
     }
     if (zeros == 0) return;

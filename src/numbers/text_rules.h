@@ -26,6 +26,11 @@ constexpr char16_t AsciiLowerChar(char16_t c) { return (c >= u'A' && c <= u'Z') 
 constexpr char16_t AsciiUpperChar(char16_t c) { return (c >= u'a' && c <= u'z') ? static_cast<char16_t>(c - 32) : c; }
 constexpr bool IsAsciiDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 
+// Where `c` first occurs in `text` from `from` on; npos when nowhere. As
+// std::u16string_view::find, but four characters at a time: the passes over
+// a whole expression look for one character again and again.
+std::size_t FindChar(std::u16string_view text, char16_t c, std::size_t from = 0);
+
 // ASCII-only text (all our number texts) between the two string types.
 std::u16string AsciiToU16(std::string_view text);
 
