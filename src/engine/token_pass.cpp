@@ -158,7 +158,10 @@ TokenCheck CheckToken(EngineState& state, const TokenContext& context, std::u16s
     if ((bits & BlankBit) != 0 && t.find(u' ') != std::u16string_view::npos) return Stop(state, InvalidName);
     if (IsNumberToken(state, t, bits)) return {};
     if (!IsValidName(bits)) return Stop(state, InvalidName);
-    if (const std::u16string_view* replacement = Replacements.Find(t)) return {Verdict::Replace, *replacement, custom};
+    // The replaced names are exactly the aliases and the constants.
+    if ((lists & (AliasBit | ConstantBit)) != 0) {
+        if (const std::u16string_view* replacement = Replacements.Find(t)) return {Verdict::Replace, *replacement, custom};
+    }
     if (IsDigitChar(t[0])) return Stop(state, UndefinedName);
     return {};
 }

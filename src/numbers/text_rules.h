@@ -1,5 +1,8 @@
 #pragma once
 
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -29,7 +32,26 @@ constexpr bool IsAsciiDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 // Where `c` first occurs in `text` from `from` on; npos when nowhere. As
 // std::u16string_view::find, but four characters at a time: the passes over
 // a whole expression look for one character again and again.
-std::size_t FindChar(std::u16string_view text, char16_t c, std::size_t from = 0);
+inline std::size_t FindChar(std::u16string_view text, char16_t c, std::size_t from = 0) {
+    std::size_t i = from;
+    if constexpr (std::endian::native == std::endian::little) {
+        constexpr std::uint64_t Ones = 0x0001000100010001;
+        constexpr std::uint64_t Highs = 0x8000800080008000;
+        const std::uint64_t pattern = Ones * c;
+        for (; i + 4 <= text.size(); i += 4) {
+            std::uint64_t word = 0;
+            std::memcpy(&word, text.data() + i, sizeof word);
+            word ^= pattern;  // a lane of the sought character is now zero
+            // The lowest flagged lane is the first zero lane; lanes above it may be flagged falsely.
+            const std::uint64_t zeroLanes = (word - Ones) & ~word & Highs;
+            if (zeroLanes != 0) return i + static_cast<std::size_t>(std::countr_zero(zeroLanes)) / 16;
+        }
+    }
+    for (; i < text.size(); ++i) {
+        if (text[i] == c) return i;
+    }
+    return std::u16string_view::npos;
+}
 
 // ASCII-only text (all our number texts) between the two string types.
 std::u16string AsciiToU16(std::string_view text);
