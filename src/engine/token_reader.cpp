@@ -1,6 +1,7 @@
 #include "engine/token_reader.h"
 
 #include <algorithm>
+#include <array>
 
 #include "engine/errors.h"
 #include "engine/name_lists.h"
@@ -11,10 +12,31 @@ namespace tessarondel {
 
 namespace {
 
-// Characters up to the first delimiter, blanks included.
+// How a token starting with an ASCII character goes on, looked up rather than tested.
+enum class TokenStart : unsigned char { Other, Number, Name, Operator };
+constexpr auto TokenStarts = [] {
+    std::array<TokenStart, 128> starts{};
+    for (char16_t c = 0; c < starts.size(); ++c) {
+        if (IsDigitChar(c)) {
+            starts[c] = TokenStart::Number;
+        } else if (IsLetterChar(c)) {
+            starts[c] = TokenStart::Name;
+        } else if (IsOperatorText(std::u16string_view(&c, 1))) {
+            starts[c] = TokenStart::Operator;
+        }
+    }
+    return starts;
+}();
+constexpr auto Delimiters = [] {
+    std::array<bool, 128> delimiters{};
+    for (char16_t c = 0; c < delimiters.size(); ++c) delimiters[c] = IsDelimiterChar(c);
+    return delimiters;
+}();
+
+// Characters up to the first delimiter, blanks included. All delimiters are ASCII.
 std::size_t NameLength(std::u16string_view rest) {
-    std::size_t n = 0;
-    while (n < rest.size() && !IsDelimiterChar(rest[n])) ++n;
+    std::size_t n = 1;
+    while (n < rest.size() && (rest[n] >= Delimiters.size() || !Delimiters[rest[n]])) ++n;
     return n;
 }
 
@@ -48,11 +70,16 @@ void ReadTokenUnguarded(EngineState& state, std::u16string_view& token) {
 TokenShape ShapeOfToken(std::u16string_view rest) {
     if (rest.empty()) return {};
     const char16_t c = rest[0];
-    if (IsDigitChar(c)) return {NameLength(rest), TokenNumber};
-    if (IsLetterChar(c)) return {NameLength(rest), TokenIdentifier};
-    if (IsOperatorText(std::u16string_view(rest.data(), 1))) {
-        // A two-character operator counts only with a third character behind it.
-        return {rest.size() > 2 && IsOperatorText(std::u16string_view(rest.data(), 2)) ? 2U : 1U, TokenOperator};
+    switch (c < TokenStarts.size() ? TokenStarts[c] : TokenStart::Other) {
+        case TokenStart::Number:
+            return {NameLength(rest), TokenNumber};
+        case TokenStart::Name:
+            return {NameLength(rest), TokenIdentifier};
+        case TokenStart::Operator:
+            // A two-character operator counts only with a third character behind it.
+            return {rest.size() > 2 && IsOperatorText(std::u16string_view(rest.data(), 2)) ? 2U : 1U, TokenOperator};
+        case TokenStart::Other:
+            break;
     }
     if (rest.size() < 3) return {0, TokenNone, true};
     if (InBracedList(AsciiLower(rest.substr(0, 2)), BasePrefixList)) return {BaseLiteralLength(rest), TokenNumber};
