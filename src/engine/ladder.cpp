@@ -81,7 +81,11 @@ void Ladder::ParseBinary(double& value) {
     }
 }
 
-void Ladder::ParseLogical(double& value) { ParseBinary<IsLogicalOperator, &Ladder::ParseCompare>(value); }
+// Every operand passes down all the levels from here; built as one function,
+// the descent costs no calls.
+[[gnu::flatten]] void Ladder::ParseLogical(double& value) {
+    ParseBinary<IsLogicalOperator, &Ladder::ParseCompare>(value);
+}
 void Ladder::ParseCompare(double& value) { ParseBinary<IsCompareOperator, &Ladder::ParseSum>(value); }
 void Ladder::ParseSum(double& value) { ParseBinary<IsSumOperator, &Ladder::ParseProduct>(value); }
 void Ladder::ParseProduct(double& value) { ParseBinary<IsProductOperator, &Ladder::ParsePower>(value); }

@@ -88,7 +88,8 @@ TokenShape ShapeOfToken(std::u16string_view rest) {
 
 bool IsReadToTheEnd(std::u16string_view text) { return std::all_of(text.begin(), text.end(), IsReadableChar); }
 
-void ReadToken(EngineState& state) {
+// Called once per token: the shape rules are built into it, not called.
+[[gnu::flatten]] void ReadToken(EngineState& state) {
     state.TokenKind = TokenNone;
     state.CurrentToken.clear();
     std::u16string_view token;  // a view into the stream's text
