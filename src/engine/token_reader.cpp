@@ -1,6 +1,5 @@
 #include "engine/token_reader.h"
 
-#include <algorithm>
 #include <array>
 
 #include "engine/errors.h"
@@ -85,8 +84,6 @@ TokenShape ShapeOfToken(std::u16string_view rest) {
     if (InBracedList(AsciiLower(rest.substr(0, 2)), BasePrefixList)) return {BaseLiteralLength(rest), TokenNumber};
     return {};  // unreadable: looks like the end of the stream
 }
-
-bool IsReadToTheEnd(std::u16string_view text) { return std::all_of(text.begin(), text.end(), IsReadableChar); }
 
 // Called once per token: the shape rules are built into it, not called.
 [[gnu::flatten]] void ReadToken(EngineState& state) {

@@ -22,12 +22,11 @@ struct TokenShape {
 };
 TokenShape ShapeOfToken(std::u16string_view rest);
 
-// A blank, a letter, a digit, the point or a one-character operator.
+// A blank, a letter, a digit, the point or a one-character operator: a text of
+// such characters the reader reads to its end.
 constexpr bool IsReadableChar(char16_t c) {
     return c == u' ' || IsLetterChar(c) || IsDigitChar(c) || IsOperatorText(std::u16string_view(&c, 1));
 }
-// True when every character is readable: the reader then reads the text to its end.
-bool IsReadToTheEnd(std::u16string_view text);
 
 // Membership in the built-in, alias or custom function name lists, untrimmed.
 bool IsFunctionName(const EngineState& state, std::u16string_view name);
