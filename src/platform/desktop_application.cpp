@@ -28,7 +28,8 @@ DesktopApplication::DesktopApplication(QtSettingsStore& store, DesktopConfigurat
       mainWindow_(mainModel_),
       variableWindow_(mainModel_.Variables()),
       managerWindow_(managerModel_),
-      tray_([this](TrayClick click) { OnTrayClick(click); }) {
+      tray_([this](TrayClick click) { OnTrayClick(click); }),
+      sessionEnd_([this] { ExitTessarondel(); }) {
     engine_.ShowMessageBox = [this](const std::u16string& text, const std::u16string& title) {
         box_.Show(text, title, MessageButtons::Ok, MessageIcon::Information);
     };
@@ -100,10 +101,14 @@ void DesktopApplication::OpenOptions() {
     dialog.exec();
 }
 
-// cmdExit: the tray icon goes first, then the settings are written, the side
-// windows close and the process ends.
+// The one way out: cmdExit and the tray menu's Exit, the session manager at
+// logout, SIGTERM, SIGHUP and SIGINT all end here. The tray icon goes first,
+// then what outlives the run is written, the side windows close and the
+// process ends with status 0.
 void DesktopApplication::ExitTessarondel() {
     tray_.RemoveTrayIcon();
+    mainWindow_.AllowClose();
+    // Everything kept across runs is written here, before the windows go.
     SaveSettings(mainModel_.CurrentFormInfo(), held_, transfer_.Settings(), store_);
     store_.Flush();
     variableWindow_.hide();

@@ -7,6 +7,7 @@
 #include "platform/function_manager_window.h"
 #include "platform/main_window.h"
 #include "platform/qt_desktop.h"
+#include "platform/session_end.h"
 #include "platform/tray_icon.h"
 #include "platform/variable_window.h"
 #include "services/internet_transfer.h"
@@ -61,6 +62,7 @@ private:
     VariableWindow variableWindow_;
     FunctionManagerWindow managerWindow_;
     TrayIcon tray_;
+    SessionEnd sessionEnd_;
     bool starting_ = true;
 };
 

@@ -192,6 +192,10 @@ void MainWindow::moveEvent(QMoveEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (closeAllowed_ || qGuiApp->isSavingSession()) {
+        event->accept();
+        return;
+    }
     event->ignore();
     if (DecideFrameCloseAction(trayAvailable_) == TrayAction::Minimise) {
         showMinimized();

@@ -33,6 +33,9 @@ public:
     void SetTrayAvailable(bool available) { trayAvailable_ = available; }
     // The main pop-up menu at the mouse, as the tray's right click opens it.
     void PopupMainMenu();
+    // From the exit on, a close is let through instead of hiding the window:
+    // a session manager closes every window at logout.
+    void AllowClose() { closeAllowed_ = true; }
 
     // For tests and the tray: the controls by their design names.
     QLineEdit* txtIn() const { return txtIn_; }
@@ -72,6 +75,7 @@ private:
 
     MainWindowModel& model_;
     bool trayAvailable_ = true;
+    bool closeAllowed_ = false;
     bool placing_ = false;
 
     QWidget* pBoxExpressionList_ = nullptr;
