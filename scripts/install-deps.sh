@@ -13,6 +13,7 @@ packages=(
   xvfb xdotool x11-utils             # the end-to-end test on a virtual display
   dbus-x11 at-spi2-core python3-pyatspi
   locales                            # a comma-decimal locale proves number texts ignore locales
+  desktop-file-utils appstream man-db # the install checks: desktop entry, metainfo, manual pages
 )
 
 ensure_test_locale() {
