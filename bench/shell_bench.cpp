@@ -28,7 +28,7 @@ public:
 
 class NullOpener final : public ShellOpener {
 public:
-    void ShellOpen(std::u16string_view) override {}
+    bool ShellOpen(std::u16string_view) override { return true; }
 };
 
 struct Session {

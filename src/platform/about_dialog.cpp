@@ -8,6 +8,7 @@
 #include "platform/qt_text.h"
 #include "services/version_check.h"
 #include "services/version_text.h"
+#include "shell/desktop_open.h"
 
 namespace tessarondel {
 
@@ -22,7 +23,8 @@ QPushButton* LinkButton(const QString& caption, QWidget* parent) {
 
 }  // namespace
 
-AboutDialog::AboutDialog(const MakerAddresses& maker, ShellOpener& opener, QWidget* parent) : QDialog(parent) {
+AboutDialog::AboutDialog(const MakerAddresses& maker, ShellOpener& opener, MessageBox& box, QWidget* parent)
+    : QDialog(parent) {
     setWindowTitle(QStringLiteral("About Tessarondel"));
     setModal(true);
     auto* layout = new QVBoxLayout(this);
@@ -47,7 +49,8 @@ AboutDialog::AboutDialog(const MakerAddresses& maker, ShellOpener& opener, QWidg
     };
     for (const auto& link : links) {
         QPushButton* button = LinkButton(link.caption, this);
-        connect(button, &QPushButton::clicked, this, [&opener, target = link.target] { opener.ShellOpen(target); });
+        connect(button, &QPushButton::clicked, this,
+                [&opener, &box, target = link.target] { OpenWithDesktop(opener, box, target); });
         layout->addWidget(button);
     }
     auto* close = new QPushButton(QStringLiteral("OK"), this);

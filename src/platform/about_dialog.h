@@ -11,7 +11,7 @@ namespace tessarondel {
 class AboutDialog final : public QDialog {
     Q_OBJECT
 public:
-    AboutDialog(const MakerAddresses& maker, ShellOpener& opener, QWidget* parent = nullptr);
+    AboutDialog(const MakerAddresses& maker, ShellOpener& opener, MessageBox& box, QWidget* parent = nullptr);
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;

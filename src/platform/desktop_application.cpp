@@ -66,7 +66,7 @@ void DesktopApplication::OnMainChange(MainWindowChange change) {
             break;
         case MainWindowChange::OptionsDialogRequested: OpenOptions(); break;
         case MainWindowChange::AboutRequested: {
-            AboutDialog about(configuration_.Maker, opener_, &mainWindow_);
+            AboutDialog about(configuration_.Maker, opener_, box_, &mainWindow_);
             about.exec();
             break;
         }

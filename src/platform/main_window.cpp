@@ -17,6 +17,7 @@
 #include <QTreeView>
 
 #include "platform/app_icon.h"
+#include "platform/help_window.h"
 #include "platform/qt_text.h"
 #include "platform/text_table_model.h"
 #include "platform/twips.h"
@@ -77,6 +78,7 @@ void MainWindow::Apply(MainWindowChange change) {
         case MainWindowChange::WindowShown: DrawWindowShown(); break;
         case MainWindowChange::WindowPosition: DrawWindowPosition(); break;
         case MainWindowChange::FocusInputArea: txtIn_->setFocus(Qt::OtherFocusReason); break;
+        case MainWindowChange::HelpWindowRequested: ShowHelpWindow(); break;
         default: break;  // menus fill when they open; requests belong to the application
     }
 }
@@ -226,6 +228,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void MainWindow::ShowHelpWindow() {
+    if (help_ == nullptr) help_ = new HelpWindow(this);
+    help_->ShowManual(model_.ManualPage());
 }
 
 void MainWindow::ShowPopup(QMenu* menu, QWidget* anchor) {

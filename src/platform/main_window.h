@@ -18,6 +18,7 @@ class QTreeView;
 
 namespace tessarondel {
 
+class HelpWindow;
 class TextTableModel;
 
 // frmMain: a column of panels over MainWindowModel. Every handler calls one
@@ -72,11 +73,13 @@ private:
     void DrawWindowPosition();
     void ReportInputSelection();
     void ShowPopup(QMenu* menu, QWidget* anchor);
+    void ShowHelpWindow();
 
     MainWindowModel& model_;
     bool trayAvailable_ = true;
     bool closeAllowed_ = false;
     bool placing_ = false;
+    HelpWindow* help_ = nullptr;  // made when Help first needs it
 
     QWidget* pBoxExpressionList_ = nullptr;
     QWidget* pBoxCalculator_ = nullptr;

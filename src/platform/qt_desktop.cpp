@@ -67,10 +67,10 @@ std::u16string QtSaveFileDialog::AskSaveFileName(std::u16string_view filter) {
                                               QFileDialog::DontConfirmOverwrite));
 }
 
-void QtShellOpener::ShellOpen(std::u16string_view target) {
+bool QtShellOpener::ShellOpen(std::u16string_view target) {
     const QString text = ToQString(target);
     const QUrl url = text.startsWith(QLatin1Char('/')) ? QUrl::fromLocalFile(text) : QUrl(text);
-    QDesktopServices::openUrl(url);
+    return QDesktopServices::openUrl(url);
 }
 
 }  // namespace tessarondel

@@ -29,7 +29,7 @@ public:
 // Local paths open as files, anything else as a URL (mailto:, http:).
 class QtShellOpener final : public ShellOpener {
 public:
-    void ShellOpen(std::u16string_view target) override;
+    bool ShellOpen(std::u16string_view target) override;
 };
 
 // "Description(*.txt)|*.txt" pairs as Qt writes a filter: "Description(*.txt) (*.txt)".

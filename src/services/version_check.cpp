@@ -4,6 +4,7 @@
 
 #include "numbers/text_rules.h"
 #include "services/version_text.h"
+#include "shell/desktop_open.h"
 
 namespace tessarondel {
 
@@ -49,7 +50,7 @@ void CheckForUpdate(InternetTransfer& transfer, MessageBox& messages, ShellOpene
         case VersionVerdict::Newer:
             if (messages.Show(NewVersionQuestion(version), u"Find new version", MessageButtons::YesNoCancel,
                               MessageIcon::Question) == MessageAnswer::Yes) {
-                opener.ShellOpen(servers.WebServer + std::u16string(DownloadPagePath));
+                OpenWithDesktop(opener, messages, servers.WebServer + std::u16string(DownloadPagePath));
             }
             return;
     }

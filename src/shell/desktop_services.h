@@ -27,11 +27,11 @@ protected:
     ~SaveFileDialog() = default;
 };
 
-// Asks the desktop to open a document or URL with its default handler; the
-// outcome isn't looked at.
+// Asks the desktop to open a document or URL with its default handler.
+// Returns false when the desktop could not (no handler, no opener program).
 class ShellOpener {
 public:
-    virtual void ShellOpen(std::u16string_view target) = 0;
+    virtual bool ShellOpen(std::u16string_view target) = 0;
 
 protected:
     ~ShellOpener() = default;

@@ -6,6 +6,8 @@
 #include "numbers/primitives.h"
 #include "numbers/run_failure.h"
 #include "numbers/text_rules.h"
+#include "shell/desktop_open.h"
+#include "shell/installed_documents.h"
 
 namespace tessarondel {
 namespace {
@@ -129,21 +131,41 @@ void MainWindowModel::ClickQuickReferenceButton(int index) {
     Notify(MainWindowChange::FocusInputArea);
 }
 
+// Readme and Changes: the installed text, wherever the install put it; the
+// message names the place beside the program.
 void MainWindowModel::OpenProgramFile(std::u16string_view fileName, std::u16string_view missingMessage) {
-    const std::filesystem::path file = environment_.ProgramDirectory / std::filesystem::path(fileName);
-    std::error_code ignored;
-    if (std::filesystem::exists(file, ignored)) {
-        platform_.Opener.ShellOpen(file.u16string());
+    const std::filesystem::path name(fileName);
+    if (const auto file = FindInstalledDocument(environment_.ProgramDirectory, name)) {
+        OpenWithDesktop(file->u16string());
     } else {
-        ShowNotice(platform_.Box, std::u16string(missingMessage) + file.u16string(), u"Information");
+        const std::filesystem::path beside = environment_.ProgramDirectory / name;
+        ShowNotice(platform_.Box, std::u16string(missingMessage) + beside.u16string(), u"Information");
     }
 }
 
-void MainWindowModel::ClickHelp() { OpenProgramFile(u"help.chm", u"Can not find the file "); }
+void MainWindowModel::OpenWithDesktop(std::u16string_view target) {
+    tessarondel::OpenWithDesktop(platform_.Opener, platform_.Box, target);
+}
+
+// help.chm beside the program when the desktop can open it; else the manual
+// in the program's own window; the missing-file notice only when neither is there.
+void MainWindowModel::ClickHelp() {
+    const std::filesystem::path chm = environment_.ProgramDirectory / "help.chm";
+    const bool chmFound = FileExistsOnDisk(chm);
+    if (chmFound && platform_.Opener.ShellOpen(chm.u16string())) return;
+    if (const auto manual = FindInstalledDocument(environment_.ProgramDirectory, kManualIndex)) {
+        manualPage_ = *manual;
+        Notify(MainWindowChange::HelpWindowRequested);
+    } else if (chmFound) {
+        ShowNotice(platform_.Box, std::u16string(kCanNotOpen) + chm.u16string(), u"Information");
+    } else {
+        ShowNotice(platform_.Box, u"Can not find the file " + chm.u16string(), u"Information");
+    }
+}
 
 std::u16string MainWindowModel::HomePage() const { return environment_.Maker.WebServer + u"/tq/index.htm"; }
 
-void MainWindowModel::ClickLogo() { platform_.Opener.ShellOpen(HomePage()); }
+void MainWindowModel::ClickLogo() { OpenWithDesktop(HomePage()); }
 
 void MainWindowModel::ChooseInformation(int index) {
     const MakerAddresses& maker = environment_.Maker;
@@ -155,13 +177,13 @@ void MainWindowModel::ChooseInformation(int index) {
             OpenProgramFile(u"ChangesLog.txt", u"Can not find the file ");
             break;
         case 3:
-            platform_.Opener.ShellOpen(u"mailto:" + maker.SupportMailbox + u"?subject=Tessarondel Bug Report");
+            OpenWithDesktop(u"mailto:" + maker.SupportMailbox + u"?subject=Tessarondel Bug Report");
             break;
         case 4:
-            platform_.Opener.ShellOpen(u"mailto:" + maker.Mailbox + u"?subject=Suggest a feature for Tessarondel");
+            OpenWithDesktop(u"mailto:" + maker.Mailbox + u"?subject=Suggest a feature for Tessarondel");
             break;
         case 6:
-            platform_.Opener.ShellOpen(HomePage());
+            OpenWithDesktop(HomePage());
             break;
         case 7:
             Notify(MainWindowChange::CheckForUpdateRequested);

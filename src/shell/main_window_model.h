@@ -48,6 +48,7 @@ enum class MainWindowChange {
     AboutRequested,
     CheckForUpdateRequested,
     ExitRequested,
+    HelpWindowRequested,  // the manual, at ManualPage(), in the program's own help window
 };
 
 enum OptionIndex : int {
@@ -134,6 +135,8 @@ public:
     bool ProxyDialogOpen() const { return proxyDialogOpen_; }
     double WindowLeft() const { return windowLeft_; }
     double WindowTop() const { return windowTop_; }
+    // The manual's first page, once Help has found it.
+    const std::filesystem::path& ManualPage() const { return manualPage_; }
 
     // --- Start and end ------------------------------------------------------
     // The window's load: flags, InitAll, position, stored options, Quick Reference.
@@ -210,6 +213,7 @@ private:
     void InsertSelectedExpression();
     void SaveExpressionList();
     void OpenProgramFile(std::u16string_view fileName, std::u16string_view missingMessage);
+    void OpenWithDesktop(std::u16string_view target);
     void RunOptionHandler(int index);
     void ShowSideWindow(int mainMenuItem, bool shown);
     std::u16string HomePage() const;
@@ -240,6 +244,7 @@ private:
     double windowLeft_ = 0.0;
     double windowTop_ = 0.0;
     std::vector<VariableRecord> snapshot_;
+    std::filesystem::path manualPage_;
 };
 
 }  // namespace tessarondel

@@ -75,10 +75,15 @@ public:
     }
 };
 
+// Records what it was asked to open; the desktop takes it unless Refuses.
 class FakeShellOpener final : public ShellOpener {
 public:
     std::vector<std::u16string> Opened;
-    void ShellOpen(std::u16string_view target) override { Opened.emplace_back(target); }
+    bool Refuses = false;
+    bool ShellOpen(std::u16string_view target) override {
+        Opened.emplace_back(target);
+        return !Refuses;
+    }
 };
 
 }  // namespace tessarondel::testing
