@@ -36,6 +36,8 @@ public:
     // Reads the settings, loads the main window, the variable window and the
     // function manager in this order, all hidden, then shows the main window.
     void Start();
+    // Shows, raises and activates the main window, as the tray's Show does.
+    void ShowMainWindow() { mainModel_.ShowWindow(); }
 
 private:
     void OnMainChange(MainWindowChange change);

@@ -2,12 +2,14 @@
 // windows, and the event loop. Everything else is wired in DesktopApplication.
 #include <QApplication>
 #include <QNetworkProxyFactory>
+#include <QTimer>
 #include <exception>
 
 #include "customfunctions/cfd_document.h"
 #include "platform/desktop_application.h"
 #include "platform/qt_desktop.h"
 #include "platform/qt_text.h"
+#include "services/instance_channel.h"
 #include "services/instance_lock.h"
 #include "services/maker_addresses.h"
 
@@ -29,9 +31,11 @@ int main(int argc, char* argv[]) {
     QApplication::setQuitOnLastWindowClosed(false);  // the main window hides to the tray
     QtMessageBox box;
     InstanceLock instance;
-    if (!instance.TryAcquire() &&
-        box.Show(SecondInstanceQuestion, u"Information", MessageButtons::YesNo, MessageIcon::Question) !=
-            MessageAnswer::Yes) {
+    InstanceChannel channel;
+    const bool first = instance.TryAcquire();
+    if (!first && box.Show(SecondInstanceQuestion, u"Information", MessageButtons::YesNo, MessageIcon::Question) !=
+                      MessageAnswer::Yes) {
+        channel.AskToShow();  // the running instance brings its window back
         return 0;
     }
     try {
@@ -39,6 +43,10 @@ int main(int argc, char* argv[]) {
         QtSettingsStore store;
         DesktopApplication desktop(store, Configuration());
         desktop.Start();
+        // The lock holder owns the channel; it opens once the window is up.
+        if (first) {
+            QTimer::singleShot(0, &channel, [&] { channel.Listen([&desktop] { desktop.ShowMainWindow(); }); });
+        }
         return QApplication::exec();
     } catch (const std::exception&) {
         box.Show(u"Unknown Error! ErrorNumber:0", u"Information", MessageButtons::Ok, MessageIcon::Information);

@@ -226,4 +226,9 @@ void MainWindowModel::ToggleWindowShown() {
     Notify(MainWindowChange::WindowShown);
 }
 
+void MainWindowModel::ShowWindow() {
+    windowShownState_ = 1;
+    Notify(MainWindowChange::WindowShown);
+}
+
 }  // namespace tessarondel

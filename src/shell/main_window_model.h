@@ -197,6 +197,9 @@ public:
     void ClickExit() { Notify(MainWindowChange::ExitRequested); }
     void ChooseMainMenu(int index);
     void ToggleWindowShown();
+    // Shows the window as the tray's Show does, whatever its state: a later
+    // launch of the program asked for it.
+    void ShowWindow();
     // Closing by the frame is refused and hides (or shows) the window instead.
     void CloseByFrame() { ToggleWindowShown(); }
 

@@ -12,7 +12,7 @@ done
 work=$(mktemp -d)
 pids=()
 cleanup() {
-  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+  for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[i]}" 2>/dev/null && wait "${pids[i]}" 2>/dev/null || true; done
   rm -rf "$work"
 }
 trap cleanup EXIT
@@ -49,12 +49,41 @@ ends_like_exit_on() {
   grep -qx 'x=3000' "$settings" && grep -qx 'y=2250' "$settings" || fail "SIG$1: settings not written: $(cat "$settings" 2>&1)"
 }
 
+# A notification area, so that a frame close hides the window to the tray.
+start_tray() {
+  python3 "$(dirname "$0")/x_desktop.py" tray >"$work/tray" &
+  pids+=($!)
+  for _ in $(seq 100); do [ -s "$work/tray" ] && break; sleep 0.1; done
+}
+
+visible_windows() { xdotool search --onlyvisible --name '^Tessarondel$' 2>/dev/null | wc -l; }
+wait_until_visible_count() {
+  for _ in $(seq 100); do [ "$(visible_windows)" -eq "$1" ] && return 0; sleep 0.1; done
+  fail "$2"
+}
+
 case $case in
   signals)
     for signal in TERM HUP INT; do
       rm -f "$settings"
       ends_like_exit_on "$signal"
     done
+    ;;
+  second-launch)
+    # The window hidden to the tray comes back when a second launch is answered No.
+    start_tray
+    start_program
+    python3 "$(dirname "$0")/x_desktop.py" close "$(main_window)"
+    wait_until_visible_count 0 "a frame close did not hide the window"
+    first=$program
+    start_program
+    question=$(xdotool search --sync --onlyvisible --name '^Information$' | head -n 1)
+    xdotool windowfocus --sync "$question" key n
+    status=0
+    wait "$program" || status=$?
+    [ "$status" -eq 0 ] || fail "the second launch ended with status $status"
+    wait_until_visible_count 1 "the first window did not come back"
+    kill -0 "$first" || fail "the first instance is gone"
     ;;
   *) fail "unknown case $case" ;;
 esac
