@@ -66,10 +66,6 @@ FunctionManagerModel::ButtonText FunctionManagerModel::Text(ManagerButton button
 FunctionManagerModel::FunctionManagerModel(EngineState& engine, FunctionDocumentStore& store, FunctionManagerHost& host)
     : engine_(engine), store_(store), host_(host), menu_{{u"Add New...", u""}, {u"-", u""}} {}
 
-void FunctionManagerModel::Notify(FunctionManagerChange change) const {
-    if (listener_) listener_(change);
-}
-
 std::u16string FunctionManagerModel::QuickReferenceText(const CustomFunctionDocument& document) {
     return u"Function:" + document.Name + u"(" + document.ParameterText + u")\r\nDescription:" + document.Description;
 }
@@ -96,6 +92,7 @@ bool FunctionManagerModel::ButtonEnabled(ManagerButton button) const {
 }
 
 void FunctionManagerModel::Load() {
+    const auto command = changes_.Begin();
     SetLocks(true, true);
     okCancelEnabled_ = false;
     AbledControl(true);
@@ -107,7 +104,7 @@ void FunctionManagerModel::init() {
     ReadCustomFunction();
     SetCustomFuncitontoList();
     editEnabled_ = deleteEnabled_ = functionCount_ != 0;
-    Notify(FunctionManagerChange::Controls);
+    changes_.Mark(FunctionManagerChange::Controls);
 }
 
 // The store reads the whole folder into its staging list first; only when
@@ -134,7 +131,7 @@ void FunctionManagerModel::SetCustomFuncitontoList() {
 void FunctionManagerModel::AddListRow(const CustomFunctionDocument& document) {
     rows_.push_back(ListRow(document));
     if (selectedRow_ == 0) selectedRow_ = 1;  // the list keeps a row selected while it has any
-    Notify(FunctionManagerChange::Rows);
+    changes_.Mark(FunctionManagerChange::Rows);
 }
 
 void FunctionManagerModel::AbledControl(bool enabled) {
@@ -144,7 +141,7 @@ void FunctionManagerModel::AbledControl(bool enabled) {
 
 void FunctionManagerModel::DisableEditAndDeleteWithoutFunctions() {
     if (functionCount_ == 0) editEnabled_ = deleteEnabled_ = false;
-    Notify(FunctionManagerChange::Controls);
+    changes_.Mark(FunctionManagerChange::Controls);
 }
 
 bool FunctionManagerModel::IsSelected() const { return !rows_.empty() && selectedRow_ >= 1; }
@@ -163,7 +160,7 @@ std::int32_t FunctionManagerModel::FindListRow(std::u16string_view name) const {
 
 void FunctionManagerModel::SetLocks(bool name, bool others) {
     locked_ = {name, others, others, others};
-    Notify(FunctionManagerChange::Controls);
+    changes_.Mark(FunctionManagerChange::Controls);
 }
 
 void FunctionManagerModel::SetFieldText(FunctionField field, std::u16string text) {
@@ -171,11 +168,13 @@ void FunctionManagerModel::SetFieldText(FunctionField field, std::u16string text
 }
 
 void FunctionManagerModel::SelectRow(std::int32_t row) {
+    const auto command = changes_.Begin();
     selectedRow_ = (row >= 1 && row <= static_cast<std::int32_t>(rows_.size())) ? row : 0;
-    Notify(FunctionManagerChange::Selection);
+    changes_.Mark(FunctionManagerChange::Selection);
 }
 
 void FunctionManagerModel::ClickList() {
+    const auto command = changes_.Begin();
     if (!editing_ && IsSelected()) {
         const std::int32_t row = std::max(FindListRow(SelectedText()), 1);
         if (static_cast<std::size_t>(row) < documents_.size()) {
@@ -184,12 +183,13 @@ void FunctionManagerModel::ClickList() {
         }
     }
     if (functionCount_ == 0) fields_ = {};
-    Notify(FunctionManagerChange::Fields);
+    changes_.Mark(FunctionManagerChange::Fields);
 }
 
 void FunctionManagerModel::cmdLedBtn(int index) {
+    const auto command = changes_.Begin();
     expanded_ = index != 0;
-    Notify(FunctionManagerChange::Height);
+    changes_.Mark(FunctionManagerChange::Height);
 }
 
 void FunctionManagerModel::Resize(std::int32_t height) { cmdLedBtn(height <= CollapsedHeight ? 0 : 1); }
@@ -199,18 +199,20 @@ void FunctionManagerModel::EnterEditing(std::int32_t mode) {
     editing_ = true;
     AbledControl(false);
     okCancelEnabled_ = true;
-    Notify(FunctionManagerChange::Controls);
+    changes_.Mark(FunctionManagerChange::Controls);
     cmdLedBtn(1);
 }
 
 void FunctionManagerModel::cmdNew() {
+    const auto command = changes_.Begin();
     SetLocks(false, false);
     fields_ = {};
-    Notify(FunctionManagerChange::Fields);
+    changes_.Mark(FunctionManagerChange::Fields);
     EnterEditing(0);
 }
 
 void FunctionManagerModel::cmdEdit() {
+    const auto command = changes_.Begin();
     if (!IsSelected()) return;
     ClickList();
     SetLocks(true, false);  // a function keeps its name
@@ -218,21 +220,23 @@ void FunctionManagerModel::cmdEdit() {
 }
 
 void FunctionManagerModel::cmdOK() {
+    const auto command = changes_.Begin();
     const bool ok = editMode_ == 0 ? SaveNewFunction() : SaveEditedFunction();
     if (!ok) return;
     AfterSave();
     editing_ = false;
-    Notify(FunctionManagerChange::Controls);
+    changes_.Mark(FunctionManagerChange::Controls);
 }
 
 void FunctionManagerModel::AfterSave() {
     SetLocks(true, true);
     AbledControl(true);
     okCancelEnabled_ = false;
-    Notify(FunctionManagerChange::Controls);
+    changes_.Mark(FunctionManagerChange::Controls);
 }
 
 void FunctionManagerModel::cmdCancel() {
+    const auto command = changes_.Begin();
     if (!host_.Confirm(u"Really don't save the changed information?", u"Information")) return;
     editing_ = false;
     AfterSave();
@@ -252,7 +256,7 @@ void FunctionManagerModel::BuildFunctionMenu() {
     for (std::size_t slot = 1; slot < documents_.size(); ++slot) {
         menu_.push_back({documents_[slot].Name, QuickReferenceText(documents_[slot])});
     }
-    Notify(FunctionManagerChange::Menu);
+    changes_.Mark(FunctionManagerChange::Menu);
 }
 
 void FunctionManagerModel::ClearFunctionMenu() { menu_.resize(2); }
@@ -319,7 +323,7 @@ bool FunctionManagerModel::SaveEditedFunction() {
             const auto slot = static_cast<std::size_t>(FindCustomFunctionIndex(engine_, name));
             documents_.at(slot) = document;
             rows_.at(slot - 1) = ListRow(document);
-            Notify(FunctionManagerChange::Rows);
+            changes_.Mark(FunctionManagerChange::Rows);
             WriteDocument(document);
             ok = true;
             ClearFunctionMenu();
@@ -334,6 +338,7 @@ bool FunctionManagerModel::SaveEditedFunction() {
 }
 
 void FunctionManagerModel::cmdDelete() {
+    const auto command = changes_.Begin();
     if (!IsSelected()) return;
     if (host_.Confirm(u"Really removing the selected custom function: " + SelectedText() + u" ?", u"Information")) {
         DeleteSelectedFunction();
@@ -369,7 +374,7 @@ void FunctionManagerModel::DeleteSelectedFunction() {
 void FunctionManagerModel::RemoveListRow(std::int32_t row) {
     rows_.erase(rows_.begin() + (row - 1));
     selectedRow_ = std::min(selectedRow_, static_cast<std::int32_t>(rows_.size()));
-    Notify(FunctionManagerChange::Rows);
+    changes_.Mark(FunctionManagerChange::Rows);
 }
 
 }  // namespace tessarondel

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "customfunctions/cfd_document.h"
+#include "customfunctions/change_batch.h"
 #include "customfunctions/engine/function_table.h"
 #include "engine/engine_state.h"
 
@@ -57,6 +58,7 @@ protected:
 enum class FunctionField { Name = 0, Parameters = 1, Expression = 2, Description = 3 };
 enum class ManagerState { List, New, Edit };
 enum class ManagerButton { New, Edit, Delete, Insert, Close, Ok, Cancel };
+// The state groups of the window, in the order they are drawn.
 enum class FunctionManagerChange { Rows, Selection, Fields, Controls, Height, Menu };
 
 struct FunctionListRow {
@@ -92,7 +94,9 @@ public:
     static ButtonText Text(ManagerButton button);
 
     FunctionManagerModel(EngineState& engine, FunctionDocumentStore& store, FunctionManagerHost& host);
-    void SetListener(std::function<void(FunctionManagerChange)> listener) { listener_ = std::move(listener); }
+    void SetListener(ChangeBatch<FunctionManagerChange>::Listener listener) {
+        changes_.SetListener(std::move(listener));
+    }
 
     // The window's load: reads every document and defines it in the engine.
     void Load();
@@ -134,7 +138,6 @@ public:
 
 private:
     static std::size_t Index(FunctionField field) { return static_cast<std::size_t>(field); }
-    void Notify(FunctionManagerChange change) const;
     void init();
     void ReadCustomFunction();
     void SetCustomFuncitontoList();
@@ -160,7 +163,7 @@ private:
     EngineState& engine_;
     FunctionDocumentStore& store_;
     FunctionManagerHost& host_;
-    std::function<void(FunctionManagerChange)> listener_;
+    ChangeBatch<FunctionManagerChange> changes_;
 
     std::vector<CustomFunctionDocument> documents_ = std::vector<CustomFunctionDocument>(1);
     std::int32_t functionCount_ = 0;

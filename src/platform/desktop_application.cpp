@@ -34,6 +34,7 @@ DesktopApplication::DesktopApplication(QtSettingsStore& store, DesktopConfigurat
         box_.Show(text, title, MessageButtons::Ok, MessageIcon::Information);
     };
     mainModel_.SetListener([this](MainWindowChange change) { OnMainChange(change); });
+    mainModel_.SetRequestHandler([this](MainWindowRequest request) { OnMainRequest(request); });
     mainModel_.Variables().SetListener([this](VariableWindowChange change) { variableWindow_.Apply(change); });
     managerModel_.SetListener([this](FunctionManagerChange change) { managerWindow_.Apply(change); });
 }
@@ -64,17 +65,21 @@ void DesktopApplication::OnMainChange(MainWindowChange change) {
             mainWindow_.Apply(change);
             ShowSideWindows();
             break;
-        case MainWindowChange::OptionsDialogRequested: OpenOptions(); break;
-        case MainWindowChange::AboutRequested: {
+        default: mainWindow_.Apply(change); break;
+    }
+}
+
+void DesktopApplication::OnMainRequest(MainWindowRequest request) {
+    switch (request) {
+        case MainWindowRequest::OptionsDialog: OpenOptions(); break;
+        case MainWindowRequest::About: {
             AboutDialog about(configuration_.Maker, opener_, box_, &mainWindow_);
             about.exec();
             break;
         }
-        case MainWindowChange::CheckForUpdateRequested:
-            CheckForUpdate(transfer_, box_, opener_, configuration_.Servers);
-            break;
-        case MainWindowChange::ExitRequested: ExitTessarondel(); break;
-        default: mainWindow_.Apply(change); break;
+        case MainWindowRequest::CheckForUpdate: CheckForUpdate(transfer_, box_, opener_, configuration_.Servers); break;
+        case MainWindowRequest::Exit: ExitTessarondel(); break;
+        case MainWindowRequest::HelpWindow: mainWindow_.ShowHelpWindow(); break;
     }
 }
 

@@ -41,6 +41,7 @@ public:
 
 private:
     void OnMainChange(MainWindowChange change);
+    void OnMainRequest(MainWindowRequest request);
     void OnTrayClick(TrayClick click);
     void ShowSideWindows();
     void OpenOptions();

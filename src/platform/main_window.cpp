@@ -78,8 +78,7 @@ void MainWindow::Apply(MainWindowChange change) {
         case MainWindowChange::WindowShown: DrawWindowShown(); break;
         case MainWindowChange::WindowPosition: DrawWindowPosition(); break;
         case MainWindowChange::FocusInputArea: txtIn_->setFocus(Qt::OtherFocusReason); break;
-        case MainWindowChange::HelpWindowRequested: ShowHelpWindow(); break;
-        default: break;  // menus fill when they open; requests belong to the application
+        default: break;  // menus fill when they open
     }
 }
 

@@ -34,6 +34,8 @@ public:
     void SetTrayAvailable(bool available) { trayAvailable_ = available; }
     // The main pop-up menu at the mouse, as the tray's right click opens it.
     void PopupMainMenu();
+    // The manual at the model's ManualPage(), in the window's own help window.
+    void ShowHelpWindow();
     // From the exit on, a close is let through instead of hiding the window:
     // a session manager closes every window at logout.
     void AllowClose() { closeAllowed_ = true; }
@@ -73,7 +75,6 @@ private:
     void DrawWindowPosition();
     void ReportInputSelection();
     void ShowPopup(QMenu* menu, QWidget* anchor);
-    void ShowHelpWindow();
 
     MainWindowModel& model_;
     bool trayAvailable_ = true;

@@ -17,11 +17,13 @@ std::u16string Trimmed(std::u16string_view text) { return std::u16string(TrimBla
 }  // namespace
 
 void MainWindowModel::ClickEvaluate() {
+    const auto command = changes_.Begin();
     Evaluate();
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 void MainWindowModel::Evaluate() {
+    const auto command = changes_.Begin();
     if (TrimBlanks(input_.Text()).empty()) return;
     const std::u16string raw = input_.Text();
     history_.Commit(raw);
@@ -39,11 +41,11 @@ void MainWindowModel::Evaluate() {
 
     const std::u16string errorNumber = AsciiToU16(std::to_string(engine_.ErrorNumber));
     results_.AddResultListItem(Trimmed(engine_.ErrorFlag ? u"Error#" + errorNumber : display_.Text()));
-    Notify(MainWindowChange::ResultItemAdded);
+    Mark(MainWindowChange::ResultItemAdded);
 
     ExpressionRecord record{Trimmed(raw), engine_.ErrorFlag ? u"Error:" + Trimmed(engine_.ErrorText) : display_.Text()};
     expressions_.AddExpressionRow(std::move(record));
-    Notify(MainWindowChange::ExpressionRowAdded);
+    Mark(MainWindowChange::ExpressionRowAdded);
 
     if (engine_.ErrorFlag) SetDisplayText(Trimmed(engine_.ErrorText));
     ChangeInputText(u"");
@@ -59,20 +61,22 @@ void MainWindowModel::RefreshVariables() {
 
 void MainWindowModel::SetDisplayText(std::u16string text) {
     display_.SetText(std::move(text));
-    Notify(MainWindowChange::Display);
+    Mark(MainWindowChange::Display);
 }
 
 void MainWindowModel::ShowBaseOptions(bool visible) {
     display_.SetBaseOptionsVisible(visible);
-    Notify(MainWindowChange::BaseOptions);
+    Mark(MainWindowChange::BaseOptions);
 }
 
 void MainWindowModel::SelectExpressionRow(std::optional<std::size_t> row) {
+    const auto command = changes_.Begin();
     expressions_.SelectRow(row);
-    Notify(MainWindowChange::ExpressionSelection);
+    Mark(MainWindowChange::ExpressionSelection);
 }
 
 void MainWindowModel::cmdlvOutput(int index) {
+    const auto command = changes_.Begin();
     switch (index) {
         case 0:
             InsertSelectedExpression();
@@ -89,7 +93,7 @@ void MainWindowModel::cmdlvOutput(int index) {
         default:
             break;
     }
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 void MainWindowModel::InsertSelectedExpression() {
@@ -111,12 +115,12 @@ void MainWindowModel::CopySelectedExpression() {
 void MainWindowModel::ClearExpressionList() {
     if (!clearAllActive_ && !Confirm(platform_.Box, u"Really clear the expression list?", u"Information")) return;
     expressions_.Clear();
-    Notify(MainWindowChange::ExpressionListCleared);
+    Mark(MainWindowChange::ExpressionListCleared);
     SetDisplayText(u"0");
 }
 
 void MainWindowModel::SaveExpressionList() {
-    const std::u16string name = platform_.SaveDialog.AskSaveFileName(kSaveFilter);
+    const std::u16string name = changes_.Modal([this] { return platform_.SaveDialog.AskSaveFileName(kSaveFilter); });
     if (TrimBlanks(name).empty()) return;
     if (!WriteExpressionListText(std::filesystem::path(name), expressions_.Rows())) {
         ShowNotice(platform_.Box, kUnknownError, u"Error");
@@ -124,6 +128,7 @@ void MainWindowModel::SaveExpressionList() {
 }
 
 void MainWindowModel::DoubleClickExpressionList() {
+    const auto command = changes_.Begin();
     const ExpressionRow* row = expressions_.SelectedRowData();
     if (row == nullptr) return;
     const std::u16string expression = row->Record.Expression;
@@ -133,16 +138,18 @@ void MainWindowModel::DoubleClickExpressionList() {
 }
 
 void MainWindowModel::ChooseResultListItem(std::size_t index) {
+    const auto command = changes_.Begin();
     if (index == 0) {
         results_.ClearResultList();
-        Notify(MainWindowChange::ResultListCleared);
+        Mark(MainWindowChange::ResultListCleared);
     } else if (index >= ResultList::kFirstDynamicIndex && index < results_.Items().size()) {
         InsertToken(u" " + results_.Items()[index].Tag + u" ");
     }
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 void MainWindowModel::mnuCO(int index) {
+    const auto command = changes_.Begin();
     switch (index) {
         case 0:
             cmdlvOutput(1);
@@ -178,7 +185,7 @@ void MainWindowModel::ClearAll() {
     mnuCO(1);
     ShowBaseOptions(true);
     display_.ResetLook();
-    Notify(MainWindowChange::Display);
+    Mark(MainWindowChange::Display);
     clearAllActive_ = false;
 }
 

@@ -9,7 +9,7 @@ namespace tessarondel {
 void MainWindowModel::ChangeInputText(std::u16string text) {
     input_.SetText(std::move(text));
     history_.OnInputChanged(input_.Text());
-    Notify(MainWindowChange::InputArea);
+    Mark(MainWindowChange::InputArea);
 }
 
 void MainWindowModel::EditInput(std::u16string text, std::size_t selectionStart, std::size_t selectionLength) {
@@ -21,15 +21,17 @@ void MainWindowModel::EditInput(std::u16string text, std::size_t selectionStart,
 void MainWindowModel::SetInputSelection(std::size_t start, std::size_t length) { input_.SetSelection(start, length); }
 
 void MainWindowModel::SetQuickReference(std::u16string text) {
+    const auto command = changes_.Begin();
     quickReference_ = std::move(text);
-    Notify(MainWindowChange::QuickReference);
+    Mark(MainWindowChange::QuickReference);
 }
 
 void MainWindowModel::InsertToken(std::u16string_view token) {
+    const auto command = changes_.Begin();
     input_.ReplaceSelection(token);
     history_.OnInputChanged(input_.Text());
-    Notify(MainWindowChange::InputArea);
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::InputArea);
+    Mark(MainWindowChange::FocusInputArea);
     const std::u16string_view trimmed = TrimBlanks(token);
     std::u16string reference = u"Insert Object:";
     reference += trimmed;
@@ -39,24 +41,28 @@ void MainWindowModel::InsertToken(std::u16string_view token) {
 }
 
 void MainWindowModel::InsertFunction(std::u16string_view text) {
+    const auto command = changes_.Begin();
     const std::size_t start = input_.SelectionStart();
     input_.ReplaceSelection(text);
     const std::size_t bracket = text.find(u'(');
     input_.SetSelection(bracket == std::u16string_view::npos ? start : start + bracket + 1, 0);
     history_.OnInputChanged(input_.Text());
-    Notify(MainWindowChange::InputArea);
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::InputArea);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 void MainWindowModel::PressUp() {
+    const auto command = changes_.Begin();
     if (history_.StepUp()) ChangeInputText(history_.EntryOnShow());
 }
 
 void MainWindowModel::PressDown() {
+    const auto command = changes_.Begin();
     if (history_.StepDown()) ChangeInputText(history_.EntryOnShow());
 }
 
 void MainWindowModel::ClickKeypad(KeypadGroup group, int index) {
+    const auto command = changes_.Begin();
     const std::u16string text = KeypadInsertText(group, index);
     if (group != KeypadGroup::Function) return InsertToken(text);
     InsertFunction(text);
@@ -65,36 +71,44 @@ void MainWindowModel::ClickKeypad(KeypadGroup group, int index) {
 }
 
 void MainWindowModel::ClickClearInput() {
+    const auto command = changes_.Begin();
     ChangeInputText(u"");
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
-void MainWindowModel::PasteFromClipboard() { ChangeInputText(platform_.Clip.GetText()); }
+void MainWindowModel::PasteFromClipboard() {
+    const auto command = changes_.Begin();
+    ChangeInputText(platform_.Clip.GetText());
+}
 
 void MainWindowModel::CopyResultToClipboard() { platform_.Clip.SetText(display_.Text()); }
 
 void MainWindowModel::ShowResultInBase(int index) {
+    const auto command = changes_.Begin();
     display_.ShowResultInBase(index, lastValue_, resultText_);
-    Notify(MainWindowChange::Display);
-    Notify(MainWindowChange::BaseOptions);
+    Mark(MainWindowChange::Display);
+    Mark(MainWindowChange::BaseOptions);
 }
 
 void MainWindowModel::FocusBaseOption(int index) {
+    const auto command = changes_.Begin();
     display_.SelectBase(index);
     if (!engine_.ErrorFlag) ShowResultInBase(index);
-    Notify(MainWindowChange::BaseOptions);
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::BaseOptions);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 void MainWindowModel::ClickFormatNeg(bool checked) {
+    const auto command = changes_.Begin();
     display_.SetFormatNegChecked(checked);
     ShowResultInBase(display_.SelectedBase());
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 void MainWindowModel::ClickFormatNegLabel() { ClickFormatNeg(!display_.FormatNegChecked()); }
 
 void MainWindowModel::DoubleClickDisplay() {
+    const auto command = changes_.Begin();
     if (engine_.ErrorFlag) return;
     const std::u16string bracketed = u"(" + std::u16string(TrimBlanks(display_.Text())) + u")";
     InsertToken(bracketed);
@@ -103,12 +117,14 @@ void MainWindowModel::DoubleClickDisplay() {
 }
 
 void MainWindowModel::SelectApproximate(int index) {
+    const auto command = changes_.Begin();
     display_.SelectApproximate(index);
-    Notify(MainWindowChange::Approximate);
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::Approximate);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 void MainWindowModel::ChooseFunction(int group, int index) {
+    const auto command = changes_.Begin();
     const MenuItem& item = menus_.Functions.at(static_cast<std::size_t>(group)).at(static_cast<std::size_t>(index));
     if (item.IsSeparator()) return;
     InsertFunction(item.Caption + u"()");
@@ -116,6 +132,7 @@ void MainWindowModel::ChooseFunction(int group, int index) {
 }
 
 void MainWindowModel::ChooseConstant(int group, int index) {
+    const auto command = changes_.Begin();
     if (group == kCustomConstantGroup && index == 0) {
         platform_.Box.Show(u"fdsl", kTitle, MessageButtons::Ok, MessageIcon::None);
         return;

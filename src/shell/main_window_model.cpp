@@ -1,7 +1,6 @@
 // frmMain: start-up, options and panels, help, the Information and main menus.
 #include "shell/main_window_model.h"
 
-
 #include "numbers/number_text.h"
 #include "numbers/primitives.h"
 #include "numbers/run_failure.h"
@@ -29,32 +28,38 @@ std::u16string FlagText(bool on) { return on ? u"1" : u"0"; }
 
 MainWindowModel::MainWindowModel(EngineState& engine, ShellPlatform platform, ShellEnvironment environment)
     : engine_(engine),
-      platform_(platform),
+      modalBox_(platform.Box, changes_),
+      platform_{modalBox_, platform.Clip, platform.SaveDialog, platform.Opener},
       environment_(std::move(environment)),
       display_(engine),
-      variables_(engine, platform.Box, *this) {
+      variables_(engine, modalBox_, *this) {
     tessarondel::ArrangePanels(layout_);
 }
 
-void MainWindowModel::Notify(MainWindowChange change) const {
-    if (listener_) listener_(change);
+// A dialog or the end runs after what the command changed is drawn.
+void MainWindowModel::Request(MainWindowRequest request) {
+    changes_.Modal([&] {
+        if (requests_) requests_(request);
+    });
 }
 
 void MainWindowModel::Load(const FormInfoTexts& settings, ScreenSize screen) {
+    const auto command = changes_.Begin();
     windowShownState_ = 1;
     proxyDialogOpen_ = false;
     InitAll();
     windowLeft_ = settings.X != u"None" ? SettingNumber(settings.X) : (screen.Width - layout_.WindowWidth) / 2.0;
     windowTop_ = settings.Y != u"None" ? SettingNumber(settings.Y) : (screen.Height - layout_.WindowHeight) / 2.0;
-    Notify(MainWindowChange::WindowPosition);
+    Mark(MainWindowChange::WindowPosition);
     SetOption(OptionExpressionList, SettingChecked(settings.EL));
     SetOption(OptionInputPanel, SettingChecked(settings.IP));
     SetOption(OptionStayOnTop, SettingChecked(settings.SOT));
     ClickQuickReferenceButton(SettingChecked(settings.QR) ? 1 : 0);
-    Notify(MainWindowChange::WindowShown);
+    Mark(MainWindowChange::WindowShown);
 }
 
 void MainWindowModel::InitAll() {
+    const auto command = changes_.Begin();
     engine_.ShowErrorBox = true;
     engine_.ErrorBoxTitle = kErrorBoxTitle;
     menus_ = initMenu();
@@ -82,6 +87,7 @@ void MainWindowModel::SetWindowPosition(double left, double top) {
 }
 
 void MainWindowModel::SetOption(int index, bool checked) {
+    const auto command = changes_.Begin();
     bool& option = options_.at(static_cast<std::size_t>(index));
     if (option == checked) return;
     option = checked;
@@ -105,11 +111,11 @@ void MainWindowModel::RunOptionHandler(int index) {
             ArrangePanels();
             break;
         default:
-            Notify(MainWindowChange::StayOnTop);
+            Mark(MainWindowChange::StayOnTop);
             break;
     }
-    Notify(MainWindowChange::Options);
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::Options);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 void MainWindowModel::ShowSideWindow(int mainMenuItem, bool shown) {
@@ -118,17 +124,19 @@ void MainWindowModel::ShowSideWindow(int mainMenuItem, bool shown) {
 }
 
 void MainWindowModel::ArrangePanels() {
+    const auto command = changes_.Begin();
     tessarondel::ArrangePanels(layout_);
-    Notify(MainWindowChange::Layout);
+    Mark(MainWindowChange::Layout);
 }
 
 void MainWindowModel::ClickQuickReferenceButton(int index) {
+    const auto command = changes_.Begin();
     quickRefShown_ = index != 0;
     layout_.InputPanel.Height =
         quickRefShown_ ? PanelLayout::kInputPanelWithQuickReference : PanelLayout::kInputPanelWithoutQuickReference;
-    Notify(MainWindowChange::QuickReferencePair);
+    Mark(MainWindowChange::QuickReferencePair);
     ArrangePanels();
-    Notify(MainWindowChange::FocusInputArea);
+    Mark(MainWindowChange::FocusInputArea);
 }
 
 // Readme and Changes: the installed text, wherever the install put it; the
@@ -155,7 +163,7 @@ void MainWindowModel::ClickHelp() {
     if (chmFound && platform_.Opener.ShellOpen(chm.u16string())) return;
     if (const auto manual = FindInstalledDocument(environment_.ProgramDirectory, kManualIndex)) {
         manualPage_ = *manual;
-        Notify(MainWindowChange::HelpWindowRequested);
+        Request(MainWindowRequest::HelpWindow);
     } else if (chmFound) {
         ShowNotice(platform_.Box, std::u16string(kCanNotOpen) + chm.u16string(), u"Information");
     } else {
@@ -186,10 +194,10 @@ void MainWindowModel::ChooseInformation(int index) {
             OpenWithDesktop(HomePage());
             break;
         case 7:
-            Notify(MainWindowChange::CheckForUpdateRequested);
+            Request(MainWindowRequest::CheckForUpdate);
             break;
         case 9:
-            Notify(MainWindowChange::AboutRequested);
+            Request(MainWindowRequest::About);
             break;
         default:
             break;
@@ -197,6 +205,7 @@ void MainWindowModel::ChooseInformation(int index) {
 }
 
 void MainWindowModel::ChooseMainMenu(int index) {
+    const auto command = changes_.Begin();
     switch (index) {
         case 0:
             ToggleWindowShown();
@@ -211,7 +220,7 @@ void MainWindowModel::ChooseMainMenu(int index) {
             ClickOptions();
             break;
         case 6:
-            Notify(MainWindowChange::AboutRequested);
+            Request(MainWindowRequest::About);
             break;
         case 8:
             ClickExit();
@@ -222,13 +231,15 @@ void MainWindowModel::ChooseMainMenu(int index) {
 }
 
 void MainWindowModel::ToggleWindowShown() {
+    const auto command = changes_.Begin();
     windowShownState_ = (windowShownState_ + 1) % 2;
-    Notify(MainWindowChange::WindowShown);
+    Mark(MainWindowChange::WindowShown);
 }
 
 void MainWindowModel::ShowWindow() {
+    const auto command = changes_.Begin();
     windowShownState_ = 1;
-    Notify(MainWindowChange::WindowShown);
+    Mark(MainWindowChange::WindowShown);
 }
 
 }  // namespace tessarondel

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "customfunctions/change_batch.h"
 #include "engine/engine_state.h"
 #include "shell/catalogue.h"
 #include "shell/desktop_services.h"
@@ -24,8 +25,10 @@
 
 namespace tessarondel {
 
-// What changed, so the desktop redraws only that. Rows are announced one by
-// one as they are appended; a list is only ever cleared whole.
+// The state groups of the window, in the order they are drawn. A command marks
+// what it changed and the window redraws those groups once, after the command.
+// A list is only ever appended to or cleared whole; a clear is drawn before
+// the rows added after it.
 enum class MainWindowChange {
     InputArea,           // text, selection (caret)
     Display,             // text and look of the result display
@@ -34,21 +37,26 @@ enum class MainWindowChange {
     QuickReference,      // its text
     QuickReferencePair,  // cmdLedBtn pair, QuickReference and PanelQR visibility
     Layout,              // panel geometry and visibility, window height
-    ExpressionRowAdded,  // the last row of ExpressionList is new
     ExpressionListCleared,
+    ExpressionRowAdded,  // rows were appended to ExpressionList
     ExpressionSelection,
-    ResultItemAdded,  // the last item of the Result List is new
     ResultListCleared,
-    Options,  // chkOpt states, side window visibility, check marks of the main menu
+    ResultItemAdded,  // items were appended to the Result List
+    Options,          // chkOpt states, side window visibility, check marks of the main menu
     StayOnTop,
-    WindowShown,  // WindowShownState
     WindowPosition,
-    FocusInputArea,  // the keyboard focus goes to the InputArea
-    OptionsDialogRequested,
-    AboutRequested,
-    CheckForUpdateRequested,
-    ExitRequested,
-    HelpWindowRequested,  // the manual, at ManualPage(), in the program's own help window
+    WindowShown,     // WindowShownState
+    FocusInputArea,  // the keyboard focus goes to the InputArea, last of all
+};
+
+// What the window asks of the desktop: other windows and the end. These are
+// events, not state, and are handled at once.
+enum class MainWindowRequest {
+    OptionsDialog,
+    About,
+    CheckForUpdate,
+    Exit,
+    HelpWindow,  // the manual, at ManualPage(), in the program's own help window
 };
 
 enum OptionIndex : int {
@@ -98,7 +106,9 @@ struct ScreenSize {
 
 // frmMain's logic: the evaluate flow, the lists, the input area and its
 // history, the display, the keypad, the catalogues, the options and panels.
-// Every handler of the window is one operation here.
+// Every handler of the window is one operation here. A command marks the state
+// groups it changes; the window draws them once, when the outermost command
+// returns.
 class MainWindowModel final : public VariableWindowHost {
 public:
     static constexpr const char16_t* kTitle = u"Tessarondel";
@@ -107,7 +117,8 @@ public:
     static constexpr const char16_t* kSaveFilter = u"Tessarondel Expression Text(*.txt)|*.txt";
 
     MainWindowModel(EngineState& engine, ShellPlatform platform, ShellEnvironment environment);
-    void SetListener(std::function<void(MainWindowChange)> listener) { listener_ = std::move(listener); }
+    void SetListener(ChangeBatch<MainWindowChange>::Listener listener) { changes_.SetListener(std::move(listener)); }
+    void SetRequestHandler(std::function<void(MainWindowRequest)> handler) { requests_ = std::move(handler); }
 
     // --- State --------------------------------------------------------------
     const InputArea& Input() const { return input_; }
@@ -193,8 +204,8 @@ public:
     void ClickHelp();
     void ChooseInformation(int index);
     void ClickLogo();
-    void ClickOptions() { Notify(MainWindowChange::OptionsDialogRequested); }
-    void ClickExit() { Notify(MainWindowChange::ExitRequested); }
+    void ClickOptions() { Request(MainWindowRequest::OptionsDialog); }
+    void ClickExit() { Request(MainWindowRequest::Exit); }
     void ChooseMainMenu(int index);
     void ToggleWindowShown();
     // Shows the window as the tray's Show does, whatever its state: a later
@@ -204,7 +215,23 @@ public:
     void CloseByFrame() { ToggleWindowShown(); }
 
 private:
-    void Notify(MainWindowChange change) const;
+    // The boxes of the window and of its variable list: each opens as a modal
+    // step of the running command.
+    class ModalBox final : public MessageBox {
+    public:
+        ModalBox(MessageBox& box, ChangeBatch<MainWindowChange>& changes) : box_(box), changes_(changes) {}
+        MessageAnswer Show(std::u16string_view text, std::u16string_view title, MessageButtons buttons,
+                           MessageIcon icon) override {
+            return changes_.Modal([&] { return box_.Show(text, title, buttons, icon); });
+        }
+
+    private:
+        MessageBox& box_;
+        ChangeBatch<MainWindowChange>& changes_;
+    };
+
+    void Mark(MainWindowChange change) { changes_.Mark(change); }
+    void Request(MainWindowRequest request);
     void ChangeInputText(std::u16string text);
     void SetDisplayText(std::u16string text);
     void ShowBaseOptions(bool visible);
@@ -222,9 +249,11 @@ private:
     std::u16string HomePage() const;
 
     EngineState& engine_;
+    ChangeBatch<MainWindowChange> changes_;
+    std::function<void(MainWindowRequest)> requests_;
+    ModalBox modalBox_;
     ShellPlatform platform_;
     ShellEnvironment environment_;
-    std::function<void(MainWindowChange)> listener_;
 
     InputArea input_;
     InputHistory history_;

@@ -8,24 +8,22 @@ namespace tessarondel {
 VariableWindowModel::VariableWindowModel(EngineState& engine, MessageBox& box, VariableWindowHost& host)
     : engine_(engine), box_(box), host_(host) {}
 
-void VariableWindowModel::Notify(VariableWindowChange change) {
-    if (listener_) listener_(change);
-}
-
 void VariableWindowModel::SelectRow(std::optional<std::size_t> row) {
+    const auto command = changes_.Begin();
     if (row && *row >= rows_.size()) row.reset();
     selected_ = row;
-    Notify(VariableWindowChange::Selection);
+    changes_.Mark(VariableWindowChange::Selection);
 }
 
 void VariableWindowModel::Refill(const std::vector<VariableRecord>& snapshot) {
+    const auto command = changes_.Begin();
     rows_.clear();
     selected_.reset();
     for (const VariableRecord& record : snapshot) {
         if (TrimBlanks(record.Name).empty() || TrimBlanks(record.Value) == u"\r\n") continue;
         AddVariableRow(record);
     }
-    Notify(VariableWindowChange::Rows);
+    changes_.Mark(VariableWindowChange::Rows);
 }
 
 void VariableWindowModel::AddVariableRow(const VariableRecord& record) {
@@ -35,6 +33,7 @@ void VariableWindowModel::AddVariableRow(const VariableRecord& record) {
 }
 
 void VariableWindowModel::cmdBtn(int index) {
+    const auto command = changes_.Begin();
     switch (index) {
         case 0:
             if (!rows_.empty() && selected_) host_.InsertToken(u"(" + rows_[*selected_].Name + u")");
@@ -51,17 +50,19 @@ void VariableWindowModel::cmdBtn(int index) {
 }
 
 void VariableWindowModel::ClearVarList() {
+    const auto command = changes_.Begin();
     if (rows_.empty()) return;
     if (!host_.ClearAllActive() && !Confirm(box_, u"Really clear the variable list?", u"Information")) return;
     rows_.clear();
     selected_.reset();
-    Notify(VariableWindowChange::Rows);
+    changes_.Mark(VariableWindowChange::Rows);
     ClearVariables(engine_);
 }
 
 void VariableWindowModel::CloseVariableList() { host_.SetOption(1, false); }
 
 void VariableWindowModel::Resize(std::int32_t height) {
+    const auto command = changes_.Begin();
     geometry_.Width = kWidth;
     geometry_.ListWidth = kWidth - 120;
     if (height < MinimumHeight) {
@@ -73,7 +74,7 @@ void VariableWindowModel::Resize(std::int32_t height) {
     geometry_.Height = height;
     geometry_.ListHeight = height - kPanelHeight - 440;
     geometry_.PanelTop = geometry_.ListHeight + 45;
-    Notify(VariableWindowChange::Geometry);
+    changes_.Mark(VariableWindowChange::Geometry);
 }
 
 }  // namespace tessarondel

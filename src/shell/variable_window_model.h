@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "customfunctions/change_batch.h"
 #include "engine/engine_state.h"
 #include "shell/message_box.h"
 
@@ -31,6 +32,7 @@ struct VariableWindowGeometry {
     std::int32_t PanelTop = 3360;
 };
 
+// The state groups of the window, in the order they are drawn.
 enum class VariableWindowChange { Rows, Selection, Geometry };
 
 // frmVar: a view of the engine's variables that the main window refills after
@@ -52,7 +54,9 @@ public:
                                            {u"Close", u"Close the Variable List"}};
 
     VariableWindowModel(EngineState& engine, MessageBox& box, VariableWindowHost& host);
-    void SetListener(std::function<void(VariableWindowChange)> listener) { listener_ = std::move(listener); }
+    void SetListener(ChangeBatch<VariableWindowChange>::Listener listener) {
+        changes_.SetListener(std::move(listener));
+    }
 
     const std::vector<VariableRecord>& Rows() const { return rows_; }
     std::optional<std::size_t> SelectedRow() const { return selected_; }
@@ -73,7 +77,6 @@ public:
     void Resize(std::int32_t height);
 
 private:
-    void Notify(VariableWindowChange change);
     void AddVariableRow(const VariableRecord& record);
 
     EngineState& engine_;
@@ -82,7 +85,7 @@ private:
     std::vector<VariableRecord> rows_;
     std::optional<std::size_t> selected_;
     VariableWindowGeometry geometry_;
-    std::function<void(VariableWindowChange)> listener_;
+    ChangeBatch<VariableWindowChange> changes_;
 };
 
 }  // namespace tessarondel

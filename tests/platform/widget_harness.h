@@ -32,15 +32,19 @@ struct WidgetApplicationGuard {
 };
 
 // The main window over its model on fakes, loaded as on a first run.
-struct MainWindowHarness {
-    MainWindowHarness() {
+template <typename Box = ScriptedMessageBox>
+struct BasicMainWindowHarness {
+    BasicMainWindowHarness() {
         model.SetListener([this](MainWindowChange change) { window.Apply(change); });
+        model.SetRequestHandler([this](MainWindowRequest request) {
+            if (request == MainWindowRequest::HelpWindow) window.ShowHelpWindow();
+        });
         model.Load(FormInfoTexts{}, {19200, 14400});
     }
 
     WidgetApplicationGuard application;
     EngineState engine;
-    ScriptedMessageBox box;  // any box a test doesn't expect fails it
+    Box box;  // by default, any box a test doesn't expect fails it
     FakeClipboard clipboard;
     FakeSaveDialog saveDialog;
     FakeShellOpener opener;
@@ -51,6 +55,7 @@ struct MainWindowHarness {
         {programDirectory.path().toStdU16String(), {u"help@x.invalid", u"ideas@x.invalid", u"https://x.invalid"}}};
     MainWindow window{model};
 };
+using MainWindowHarness = BasicMainWindowHarness<>;
 
 // The first child whose accessible name is `name`.
 template <typename Widget = QWidget>

@@ -72,15 +72,15 @@ TEST_P(HelpChoice, OpensWhatIsThere) {
     FakeShellOpener opener;
     opener.Refuses = !row.desktopOpens;
     MainWindowModel main{engine, {box, clipboard, saveDialog, opener}, {program, {}}};
-    std::vector<MainWindowChange> changes;
-    main.SetListener([&changes](MainWindowChange change) { changes.push_back(change); });
+    std::vector<MainWindowRequest> requests;
+    main.SetRequestHandler([&requests](MainWindowRequest request) { requests.push_back(request); });
     const std::u16string chm = (program / "help.chm").u16string();
     if (*row.notice != '\0') box.ExpectNotice(ToUtf16(row.notice) + chm, u"Information");
 
     main.ClickHelp();
 
     EXPECT_EQ(opener.Opened, row.chm ? std::vector<std::u16string>{chm} : std::vector<std::u16string>{});
-    EXPECT_EQ(std::count(changes.begin(), changes.end(), MainWindowChange::HelpWindowRequested), row.helpWindow);
+    EXPECT_EQ(std::count(requests.begin(), requests.end(), MainWindowRequest::HelpWindow), row.helpWindow);
     EXPECT_EQ(std::filesystem::exists(main.ManualPage()), row.helpWindow);
 }
 

@@ -117,10 +117,8 @@ TEST_F(OptionsSession, MenuCommandsThatOpenOtherWindowsAreAnnounced) {
     main.ChooseInformation(9);
     main.ChooseInformation(7);
     main.ChooseMainMenu(8);
-    EXPECT_TRUE(Announced(MainWindowChange::OptionsDialogRequested));
-    EXPECT_TRUE(Announced(MainWindowChange::AboutRequested));
-    EXPECT_TRUE(Announced(MainWindowChange::CheckForUpdateRequested));
-    EXPECT_TRUE(Announced(MainWindowChange::ExitRequested));
+    EXPECT_EQ(requests, (std::vector{MainWindowRequest::OptionsDialog, MainWindowRequest::About,
+                                     MainWindowRequest::CheckForUpdate, MainWindowRequest::Exit}));
 }
 
 TEST_F(OptionsSession, HelpOpensTheFileBesideTheProgram) {

@@ -11,11 +11,12 @@ namespace tessarondel::testing {
 inline std::string U8(std::u16string_view text) { return ToUtf8(text); }
 
 // One main window on a fresh engine, loaded as at a first start, with the
-// changes it announced recorded.
+// changes and requests it announced recorded.
 class MainWindowTest : public ::testing::Test {
 protected:
     MainWindowTest() {
         main.SetListener([this](MainWindowChange change) { changes.push_back(change); });
+        main.SetRequestHandler([this](MainWindowRequest request) { requests.push_back(request); });
         main.Load(FormInfoTexts{}, ScreenSize{19200, 14400});
         changes.clear();
     }
@@ -43,6 +44,7 @@ protected:
                          ShellEnvironment{TESSARONDEL_TEST_DATA "/shell/program",
                                           {u"support@example.org", u"mail@example.org", u"http://www.example.org"}}};
     std::vector<MainWindowChange> changes;
+    std::vector<MainWindowRequest> requests;
 };
 
 }  // namespace tessarondel::testing
