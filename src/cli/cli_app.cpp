@@ -19,17 +19,21 @@ namespace {
 constexpr const char* VersionText = "1.2.6688 Build 1228";
 
 constexpr const char* UsageText =
-    "Usage: tessarondel-cli [--round N] [--base bin|oct|dec|hex] [--complement] [--functions DIR] [EXPR...]\n"
+    "Usage: tessarondel-cli [--round N] [--base bin|oct|dec|hex] [--complement] [--functions DIR] [--no-history]\n"
+    "                       [EXPR...]\n"
     "       tessarondel-cli [--functions DIR] --json\n"
     "\n"
     "Evaluates each EXPR in order in one engine and prints one result per line.\n"
-    "Without EXPR, reads one expression per line from standard input.\n"
+    "Without EXPR, reads one expression per line from standard input. On a terminal\n"
+    "it prompts with line editing, Tab completes names, and Up and Down recall the\n"
+    "lines of this and earlier sessions ($XDG_STATE_HOME/Tessarondel/cli_history).\n"
     "\n"
     "  --round N   round every intermediate result to N places (0 to 22; -1 is off)\n"
     "  --base B    show every result as the display shows it in base B: bin, oct, dec or hex\n"
     "  --complement  show negative results in 32-bit complement form in bin, oct and hex\n"
     "  --functions DIR  define the custom functions of the .cfd documents in DIR first\n"
     "                   (default: the folder the desktop program uses)\n"
+    "  --no-history  keep no line history on a terminal\n"
     "  --json      answer JSON Lines requests from standard input\n"
     "  --help      show this help\n"
     "  --version   show the version\n"
@@ -44,6 +48,7 @@ struct Options {
     int approximateBits = -1;
     int baseIndex = BaseIndexDecimal;
     bool complement = false;
+    bool keepHistory = true;
     std::optional<std::string> functionFolder;
     std::vector<std::string> expressions;
 };
@@ -89,6 +94,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::o
             ++i;
         } else if (arg == "--complement") {
             options.complement = true;
+        } else if (arg == "--no-history") {
+            options.keepHistory = false;
         } else if (arg == "--functions" && i + 1 < args.size()) {
             options.functionFolder = args[++i];
         } else {
@@ -117,7 +124,8 @@ void AppendDisplayText(EngineState& engine, const Options& options, std::u16stri
         AppendUtf8(out, DecimalDisplayText(result));
         return;
     }
-    const BaseDisplay display = ShowResultInBase(engine.LastAnswer, result, options.baseIndex, options.complement, engine);
+    const BaseDisplay display =
+        ShowResultInBase(engine.LastAnswer, result, options.baseIndex, options.complement, engine);
     AppendUtf8(out, display.text ? std::u16string_view(*display.text) : result);
 }
 
@@ -146,7 +154,7 @@ void LoadFunctions(EngineState& engine, const Options& options, std::ostream& er
     if (LoadFunctionFolder(engine, folder).failed) err << "tessarondel-cli: " << ToUtf8(LoadFailedMessage) << '\n';
 }
 
-int RunExpressions(const Options& options, const LineReader& readLine, std::ostream& out, std::ostream& err) {
+int RunExpressions(const Options& options, const ReaderFactory& makeReader, std::ostream& out, std::ostream& err) {
     EngineState engine;
     engine.ApproximateBits = options.approximateBits;
     engine.ErrorBoxTitle = u"Tessarondel Error Information";
@@ -158,15 +166,17 @@ int RunExpressions(const Options& options, const LineReader& readLine, std::ostr
             allGood = EvaluateAndPrint(engine, options, expression, room, out) && allGood;
         }
     } else {
+        const LineReader readLine = makeReader(engine, options.keepHistory);
         std::string line;
         while (readLine(line)) allGood = EvaluateAndPrint(engine, options, line, room, out) && allGood;
     }
     return allGood ? CliAllGood : CliSomeFailed;
 }
 
-int RunJson(const Options& options, const LineReader& readLine, std::ostream& out, std::ostream& err) {
+int RunJson(const Options& options, const ReaderFactory& makeReader, std::ostream& out, std::ostream& err) {
     JsonSession session;
     LoadFunctions(session.engine, options, err);
+    const LineReader readLine = makeReader(session.engine, false);  // requests are no lines to recall
     RequestTable table;
     RegisterAllRequests(table);
     std::string line;
@@ -180,7 +190,8 @@ int RunJson(const Options& options, const LineReader& readLine, std::ostream& ou
 
 }  // namespace
 
-int RunCli(const std::vector<std::string>& args, const LineReader& readLine, std::ostream& out, std::ostream& err) {
+int RunCli(const std::vector<std::string>& args, const ReaderFactory& makeReader, std::ostream& out,
+           std::ostream& err) {
     const auto options = ParseOptions(args, err);
     if (!options) return CliBadUsage;
     if (options->help) {
@@ -191,7 +202,12 @@ int RunCli(const std::vector<std::string>& args, const LineReader& readLine, std
         out << VersionText << '\n';
         return CliAllGood;
     }
-    return options->json ? RunJson(*options, readLine, out, err) : RunExpressions(*options, readLine, out, err);
+    return options->json ? RunJson(*options, makeReader, out, err) : RunExpressions(*options, makeReader, out, err);
+}
+
+int RunCli(const std::vector<std::string>& args, const LineReader& readLine, std::ostream& out, std::ostream& err) {
+    return RunCli(
+        args, [&readLine](const EngineState&, bool) { return readLine; }, out, err);
 }
 
 LineReader StreamLineReader(std::istream& in) {

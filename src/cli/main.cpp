@@ -1,30 +1,27 @@
 #include <unistd.h>
 
-#include <cstdio>
-#include <cstdlib>
+#include <filesystem>
 #include <iostream>
+#include <optional>
 
 #include "cli/cli_app.h"
+#include "customfunctions/function_folder.h"
 
 #ifdef TESSARONDEL_HAVE_EDITLINE
-#include <editline/readline.h>
+#include "cli/terminal_reader.h"
 #endif
 
 namespace {
 
-// Standard input line by line; on a terminal with a prompt, line editing and history.
-tessarondel::LineReader StandardInputReader() {
+// Standard input line by line; on a terminal with a prompt, line editing,
+// completion and history. Input from a pipe or a file never touches the history.
+tessarondel::LineReader StandardInputReader([[maybe_unused]] const tessarondel::EngineState& engine,
+                                            [[maybe_unused]] bool keepHistory) {
 #ifdef TESSARONDEL_HAVE_EDITLINE
     if (isatty(STDIN_FILENO)) {
-        return [](std::string& text) {
-            std::cout.flush();
-            char* line = readline("> ");
-            if (!line) return false;
-            text = line;
-            if (!text.empty()) add_history(line);
-            std::free(line);
-            return true;
-        };
+        std::optional<std::filesystem::path> historyFile;
+        if (keepHistory) historyFile = std::filesystem::path(tessarondel::UserStateHome()) / "Tessarondel/cli_history";
+        return tessarondel::TerminalReader(engine, std::move(historyFile));
     }
 #endif
     // The answers go out before the program waits for more input, which is
@@ -42,5 +39,5 @@ tessarondel::LineReader StandardInputReader() {
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     const std::vector<std::string> args(argv + 1, argv + argc);
-    return tessarondel::RunCli(args, StandardInputReader(), std::cout, std::cerr);
+    return tessarondel::RunCli(args, tessarondel::ReaderFactory(StandardInputReader), std::cout, std::cerr);
 }

@@ -64,12 +64,20 @@ std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, 
     return personal;
 }
 
-std::string UserDataHome() {
-    const char* xdg = std::getenv("XDG_DATA_HOME");
+namespace {
+
+std::string XdgHome(const char* variable, std::string_view fallbackUnderHome) {
+    const char* xdg = std::getenv(variable);
     if (xdg != nullptr && xdg[0] == '/') return xdg;
     const char* home = std::getenv("HOME");
-    return std::string(home != nullptr ? home : "") + "/.local/share";
+    return std::string(home != nullptr ? home : "") + std::string(fallbackUnderHome);
 }
+
+}  // namespace
+
+std::string UserDataHome() { return XdgHome("XDG_DATA_HOME", "/.local/share"); }
+
+std::string UserStateHome() { return XdgHome("XDG_STATE_HOME", "/.local/state"); }
 
 std::filesystem::path ResolveFunctionFolder() { return ChooseFunctionFolder(ProgramDirectory(), UserDataHome()); }
 

@@ -24,5 +24,7 @@ std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, 
 
 // $XDG_DATA_HOME when it is an absolute path, else ~/.local/share.
 std::string UserDataHome();
+// $XDG_STATE_HOME when it is an absolute path, else ~/.local/state.
+std::string UserStateHome();
 
 }  // namespace tessarondel

@@ -33,6 +33,7 @@ DesktopApplication::DesktopApplication(QtSettingsStore& store, DesktopConfigurat
     engine_.ShowMessageBox = [this](const std::u16string& text, const std::u16string& title) {
         box_.Show(text, title, MessageButtons::Ok, MessageIcon::Information);
     };
+    proxyModel_.AttachKeepHistory(held_.KeepHistory, [this](bool keep) { StoreKeepHistory(keep); });
     mainModel_.SetListener([this](MainWindowChange change) { OnMainChange(change); });
     mainModel_.SetRequestHandler([this](MainWindowRequest request) { OnMainRequest(request); });
     mainModel_.Variables().SetListener([this](VariableWindowChange change) { variableWindow_.Apply(change); });
@@ -47,6 +48,7 @@ void DesktopApplication::Start() {
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     mainModel_.Load(held_.Window, {static_cast<std::int32_t>(scale.ToTwips(screen.width())),
                                    static_cast<std::int32_t>(scale.ToTwips(screen.height()))});
+    if (KeepHistoryOn(held_.KeepHistory)) mainModel_.RestoreHistory(historyFile_.Load());
     // The side windows get their native windows now, hidden, so that they stand
     // in the accessibility tree before they are first shown.
     variableWindow_.winId();
@@ -101,6 +103,13 @@ void DesktopApplication::OnTrayClick(TrayClick click) {
     }
 }
 
+// Stored at once, as the dialog's other settings are; turning it off forgets the kept session.
+void DesktopApplication::StoreKeepHistory(bool keep) {
+    store_.Write(OptionSection, KeepHistoryKey, keep ? u"1" : u"0");
+    store_.Flush();
+    if (!keep) historyFile_.Remove();
+}
+
 void DesktopApplication::OpenOptions() {
     ProxyDialog dialog(proxyModel_, &mainWindow_);
     dialog.exec();
@@ -116,6 +125,7 @@ void DesktopApplication::ExitTessarondel() {
     // Everything kept across runs is written here, before the windows go.
     SaveSettings(mainModel_.CurrentFormInfo(), held_, transfer_.Settings(), store_);
     store_.Flush();
+    if (KeepHistoryOn(held_.KeepHistory)) historyFile_.Save(mainModel_.SaveHistory());
     variableWindow_.hide();
     managerWindow_.hide();
     QCoreApplication::exit(0);

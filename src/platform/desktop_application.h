@@ -10,6 +10,7 @@
 #include "platform/session_end.h"
 #include "platform/tray_icon.h"
 #include "platform/variable_window.h"
+#include "services/history_file.h"
 #include "services/internet_transfer.h"
 #include "services/qt_settings_store.h"
 #include "services/settings_table.h"
@@ -46,6 +47,7 @@ private:
     void ShowSideWindows();
     void OpenOptions();
     void ExitTessarondel();
+    void StoreKeepHistory(bool keep);
 
     QtSettingsStore& store_;
     DesktopConfiguration configuration_;
@@ -55,6 +57,7 @@ private:
     QtSaveFileDialog saveDialog_;
     QtShellOpener opener_;
     HeldSettings held_;
+    HistoryFile historyFile_;
     InternetTransfer transfer_;
     MainWindowModel mainModel_;
     FolderDocumentStore documents_;

@@ -36,7 +36,13 @@ ProxyDialog::ProxyDialog(ProxyDialogModel& model, QWidget* parent) : QDialog(par
     }
     QLineEdit* password = Box(ProxyField::Password);
     password->setEchoMode(QLineEdit::Password);
-    password->setStyleSheet(QStringLiteral("lineedit-password-character: %1").arg(int(ProxyDialogModel::kPasswordMask)));
+    password->setStyleSheet(
+        QStringLiteral("lineedit-password-character: %1").arg(int(ProxyDialogModel::kPasswordMask)));
+
+    auto* history = new QGroupBox(ToQString(ProxyDialogModel::kHistoryFrameCaption), this);
+    keepHistory_ = new QCheckBox(ToQString(ProxyDialogModel::kKeepHistoryCaption), history);
+    connect(keepHistory_, &QCheckBox::clicked, this, [this](bool checked) { model_.ClickKeepHistory(checked); });
+    (new QVBoxLayout(history))->addWidget(keepHistory_);
 
     ok_ = new QPushButton(ToQString(ProxyDialogModel::kOkCaption), this);
     cancel_ = new QPushButton(ToQString(ProxyDialogModel::kCancelCaption), this);
@@ -60,6 +66,7 @@ ProxyDialog::ProxyDialog(ProxyDialogModel& model, QWidget* parent) : QDialog(par
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(chkProxy_);
     layout->addWidget(frame_);
+    layout->addWidget(history);
     layout->addLayout(buttons);
 }
 
@@ -80,6 +87,7 @@ void ProxyDialog::done(int result) {
 
 void ProxyDialog::Draw() {
     chkProxy_->setChecked(model_.UseProxyChecked());
+    keepHistory_->setChecked(model_.KeepHistoryChecked());
     frame_->setVisible(model_.FrameVisible());
     adjustSize();
 }

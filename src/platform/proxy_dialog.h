@@ -24,6 +24,7 @@ public:
 
     QCheckBox* chkProxy() const { return chkProxy_; }
     QGroupBox* frameproxy() const { return frame_; }
+    QCheckBox* chkKeepHistory() const { return keepHistory_; }
     QLineEdit* Box(ProxyField field) const { return boxes_[static_cast<std::size_t>(field)]; }
     QPushButton* cmdOK() const { return ok_; }
     QPushButton* cmdCancel() const { return cancel_; }
@@ -36,6 +37,7 @@ private:
     QCheckBox* chkProxy_ = nullptr;
     QGroupBox* frame_ = nullptr;
     std::array<QLineEdit*, 4> boxes_{};
+    QCheckBox* keepHistory_ = nullptr;
     QPushButton* ok_ = nullptr;
     QPushButton* cancel_ = nullptr;
     QPushButton* default_ = nullptr;

@@ -15,11 +15,13 @@ namespace tessarondel {
 struct HeldSettings {
     ProxySettingsTexts Network;
     FormInfoTexts Window;
+    std::u16string KeepHistory = u"0";  // the main window's session is kept between runs when "1"
 };
 
 inline constexpr std::u16string_view ApplicationName = u"Tessarondel";
 inline constexpr std::u16string_view OptionSection = u"Option";
 inline constexpr std::u16string_view FormInfoSection = u"FormInfo";
+inline constexpr std::u16string_view KeepHistoryKey = u"KeepHistory";
 
 // One stored setting: where it lives, what a missing key reads as, whether the
 // read value is trimmed, and which held text carries it.
@@ -32,7 +34,7 @@ struct SettingDefinition {
 };
 
 // Every key of the store, in the order LoadSettings reads them.
-inline const std::array<SettingDefinition, 11> SettingsTable = {{
+inline const std::array<SettingDefinition, 12> SettingsTable = {{
     {OptionSection, u"State", u"0", false, [](HeldSettings& h) -> std::u16string& { return h.Network.State; }},
     {OptionSection, u"Proxy", u"", false, [](HeldSettings& h) -> std::u16string& { return h.Network.Proxy; }},
     {OptionSection, u"Remoteport", u"80", false, [](HeldSettings& h) -> std::u16string& { return h.Network.Port; }},
@@ -40,6 +42,7 @@ inline const std::array<SettingDefinition, 11> SettingsTable = {{
      [](HeldSettings& h) -> std::u16string& { return h.Network.UserName; }},
     {OptionSection, u"Password", u"", false,
      [](HeldSettings& h) -> std::u16string& { return h.Network.Password; }},
+    {OptionSection, KeepHistoryKey, u"0", false, [](HeldSettings& h) -> std::u16string& { return h.KeepHistory; }},
     {FormInfoSection, u"x", u"None", true, [](HeldSettings& h) -> std::u16string& { return h.Window.X; }},
     {FormInfoSection, u"y", u"None", true, [](HeldSettings& h) -> std::u16string& { return h.Window.Y; }},
     {FormInfoSection, u"EL", u"1", true, [](HeldSettings& h) -> std::u16string& { return h.Window.EL; }},

@@ -29,6 +29,12 @@ void ExpressionList::Clear() {
     selected_.reset();
 }
 
+void ExpressionList::Restore(std::int32_t rowCount, std::vector<ExpressionRecord> records) {
+    Clear();
+    rowCount_ = rowCount - static_cast<std::int32_t>(records.size());
+    for (ExpressionRecord& record : records) AddExpressionRow(std::move(record));
+}
+
 bool WriteExpressionListText(const std::filesystem::path& file, const std::vector<ExpressionRow>& rows) {
     std::ofstream out(file, std::ios::binary | std::ios::trunc);
     if (!out) return false;

@@ -11,6 +11,8 @@ namespace tessarondel {
 struct ExpressionRecord {
     std::u16string Expression;
     std::u16string Result;
+
+    friend bool operator==(const ExpressionRecord&, const ExpressionRecord&) = default;
 };
 
 // A row of the list: the ID column (the count when it was added) and the record.
@@ -36,6 +38,8 @@ public:
 
     void AddExpressionRow(ExpressionRecord record);
     void Clear();
+    // The list of an earlier run: its newest records, the last one with ID `rowCount`.
+    void Restore(std::int32_t rowCount, std::vector<ExpressionRecord> records);
 
 private:
     std::int32_t rowCount_ = 0;

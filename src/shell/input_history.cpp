@@ -29,4 +29,9 @@ void InputHistory::Clear() {
     position_ = 0;
 }
 
+void InputHistory::Restore(const std::vector<std::u16string>& inputs) {
+    Clear();
+    for (const std::u16string& input : inputs) Commit(input);
+}
+
 }  // namespace tessarondel

@@ -26,6 +26,8 @@ public:
     const std::u16string& EntryOnShow() const { return entries_[static_cast<std::size_t>(position_)]; }
     // Back to one empty element, position 0.
     void Clear();
+    // The inputs of an earlier run, committed in order.
+    void Restore(const std::vector<std::u16string>& inputs);
 
 private:
     std::vector<std::u16string> entries_ = std::vector<std::u16string>(1);

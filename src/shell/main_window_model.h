@@ -21,6 +21,7 @@
 #include "shell/panel_layout.h"
 #include "shell/result_display.h"
 #include "shell/result_list.h"
+#include "shell/session_history.h"
 #include "shell/variable_window_model.h"
 
 namespace tessarondel {
@@ -157,6 +158,10 @@ public:
     FormInfoTexts CurrentFormInfo() const;
     void SetWindowPosition(double left, double top);
     void SetProxyDialogOpen(bool open) { proxyDialogOpen_ = open; }
+    // The lists, the inputs, the variables and the last answer, to keep between runs.
+    SessionHistory SaveHistory() const;
+    // Puts a kept session back after Load: evaluates nothing and adds no rows of its own.
+    void RestoreHistory(const SessionHistory& saved);
 
     // --- Evaluate flow and expression list ----------------------------------
     void Evaluate();
@@ -236,6 +241,7 @@ private:
     void SetDisplayText(std::u16string text);
     void ShowBaseOptions(bool visible);
     void RefreshVariables();
+    void RestoreVariables(const std::vector<SavedVariable>& saved);
     void ClearExpressionList();
     void ClearHistory();
     void ClearAll();

@@ -7,7 +7,13 @@ namespace tessarondel {
 ProxyDialogModel::ProxyDialogModel(ProxySettingsTexts& held, ApplyFunction apply, OpenFlagFunction setDialogOpen)
     : held_(held), apply_(std::move(apply)), setDialogOpen_(std::move(setDialogOpen)) {}
 
+void ProxyDialogModel::AttachKeepHistory(std::u16string& held, StoreKeepHistoryFunction store) {
+    keepHistoryHeld_ = &held;
+    storeKeepHistory_ = std::move(store);
+}
+
 void ProxyDialogModel::Open() {
+    keepHistory_ = keepHistoryHeld_ && KeepHistoryOn(*keepHistoryHeld_);
     boxes_ = held_;
     copy_ = held_;
     useProxy_ = held_.State != u"0";
@@ -50,7 +56,14 @@ void ProxyDialogModel::ClickOk() {
     held_.UserName = TrimBlanks(boxes_.UserName);
     held_.Password = TrimBlanks(boxes_.Password);
     if (apply_) apply_(held_);
+    StoreKeepHistory();
     Close();
+}
+
+void ProxyDialogModel::StoreKeepHistory() {
+    if (!keepHistoryHeld_ || KeepHistoryOn(*keepHistoryHeld_) == keepHistory_) return;
+    *keepHistoryHeld_ = keepHistory_ ? u"1" : u"0";
+    if (storeKeepHistory_) storeKeepHistory_(keepHistory_);
 }
 
 void ProxyDialogModel::ClickCancel() {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace tessarondel {
 
@@ -17,6 +18,9 @@ struct ProxySettingsTexts {
 };
 
 enum class ProxyField { Proxy, Port, UserName, Password };
+
+// The setting that keeps the main window's session between runs: "1" is on.
+inline bool KeepHistoryOn(std::u16string_view text) { return text == u"1"; }
 
 // frmProxy ("Option"): edits the held texts, which change at once when "Use
 // Proxy" is clicked; Cancel puts the copy taken at opening back. The network
@@ -34,11 +38,21 @@ public:
     static constexpr const char16_t* kOkCaption = u"OK";
     static constexpr const char16_t* kCancelCaption = u"Cancel";
     static constexpr const char16_t* kDefaultCaption = u"Default";
+    static constexpr const char16_t* kHistoryFrameCaption = u"History";
+    static constexpr const char16_t* kKeepHistoryCaption = u"Keep the history between sessions";
 
     using ApplyFunction = std::function<void(const ProxySettingsTexts&)>;
     using OpenFlagFunction = std::function<void(bool open)>;
 
     ProxyDialogModel(ProxySettingsTexts& held, ApplyFunction apply, OpenFlagFunction setDialogOpen);
+
+    // "Keep the history between sessions", a setting of its own: its box shows
+    // the held text when the dialog opens, and OK and Default store a changed
+    // box (Default leaves the box as it is); Cancel forgets it.
+    using StoreKeepHistoryFunction = std::function<void(bool keep)>;
+    void AttachKeepHistory(std::u16string& held, StoreKeepHistoryFunction store);
+    bool KeepHistoryChecked() const { return keepHistory_; }
+    void ClickKeepHistory(bool checked) { keepHistory_ = checked; }
 
     // Load: boxes from the held texts, a copy for Cancel, the check and frame.
     void Open();
@@ -58,6 +72,7 @@ public:
 
 private:
     std::u16string& Field(ProxyField field);
+    void StoreKeepHistory();
 
     ProxySettingsTexts& held_;
     ApplyFunction apply_;
@@ -66,6 +81,9 @@ private:
     ProxySettingsTexts boxes_;
     bool useProxy_ = false;
     bool open_ = false;
+    std::u16string* keepHistoryHeld_ = nullptr;
+    StoreKeepHistoryFunction storeKeepHistory_;
+    bool keepHistory_ = false;
 };
 
 }  // namespace tessarondel

@@ -19,4 +19,10 @@ void ResultList::ClearResultList() {
     count_ = 0;
 }
 
+void ResultList::Restore(std::int32_t count, const std::vector<std::u16string>& texts) {
+    ClearResultList();
+    count_ = count - static_cast<std::int32_t>(texts.size());
+    for (const std::u16string& text : texts) AddResultListItem(text);
+}
+
 }  // namespace tessarondel

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "shell/menu_item.h"
 
@@ -21,6 +22,8 @@ public:
 
     void AddResultListItem(std::u16string_view text);
     void ClearResultList();
+    // The items of an earlier run: its newest texts, the last one numbered `count`.
+    void Restore(std::int32_t count, const std::vector<std::u16string>& texts);
 
 private:
     std::int32_t count_ = 0;

@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "cli/completion_names.h"
+#include "engine/engine.h"
+
 namespace tessarondel {
 namespace {
 
@@ -123,6 +126,30 @@ TEST(CliJson, AnswersEveryRequestOnItsOwnLine) {
     EXPECT_NE(responses[6].find(R"("result": "0.33", "answer": 0.33)"), std::string::npos);
     EXPECT_NE(responses[8].find(R"("vars": [])"), std::string::npos);
     EXPECT_EQ(responses[9], R"({"protocol_error": "missing member: params"})");
+}
+
+TEST(Cli, TellsTheReaderWhetherATerminalKeepsItsHistory) {
+    for (const bool keep : {true, false}) {
+        std::ostringstream out;
+        bool told = !keep;
+        RunCli(
+            keep ? std::vector<std::string>{} : std::vector<std::string>{"--no-history"},
+            [&told](const EngineState&, bool keepHistory) {
+                told = keepHistory;
+                return LineReader([](std::string&) { return false; });
+            },
+            out, out);
+        EXPECT_EQ(told, keep);
+    }
+}
+
+// Names complete in any case; variables and custom functions come from the session.
+TEST(CompletionNames, OfferBuiltinsAliasesConstantsVariablesAndCustomFunctions) {
+    EngineState engine;
+    EvaluateText(engine, u"sqx=1");
+    engine.CustomFunctionNames = u"{sqarea}";
+    EXPECT_EQ(CompletionNames(engine, "SQ"), (std::vector<std::string>{"sqarea", "sqr", "sqrt", "sqx"}));
+    EXPECT_EQ(CompletionNames(engine, "p"), (std::vector<std::string>{"perm", "permutation", "pi", "prod", "product"}));
 }
 
 }  // namespace

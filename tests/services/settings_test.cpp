@@ -11,6 +11,7 @@ TEST(LoadSettings, AnEmptyStoreGivesTheFirstRunDefaults) {
     const HeldSettings held = LoadSettings(MemorySettingsStore{});
     EXPECT_EQ(held.Network, (ProxySettingsTexts{u"0", u"", u"80", u"", u""}));
     EXPECT_EQ(held.Window, (FormInfoTexts{u"None", u"None", u"1", u"1", u"1", u"0"}));
+    EXPECT_EQ(held.KeepHistory, u"0");
 }
 
 TEST(LoadSettings, TrimsWindowStateButNotNetworkSettings) {

@@ -67,5 +67,24 @@ TEST_F(ProxyDialog, FrameCloseKeepsAChangedStateUnstored) {
     EXPECT_TRUE(applied.empty());
 }
 
+// A changed box is stored by OK and by Default, which leaves it as it is; Cancel forgets it.
+TEST_F(ProxyDialog, KeepHistoryIsStoredWhenChangedAndConfirmed) {
+    std::u16string keep = u"0";
+    std::vector<bool> stored;
+    ProxyDialogModel dialog = Dialog();
+    dialog.AttachKeepHistory(keep, [&stored](bool on) { stored.push_back(on); });
+    for (const auto& [click, confirm] : std::initializer_list<std::pair<bool, void (ProxyDialogModel::*)()>>{
+             {true, &ProxyDialogModel::ClickCancel},
+             {true, &ProxyDialogModel::ClickOk},
+             {true, &ProxyDialogModel::ClickDefault},
+             {false, &ProxyDialogModel::ClickDefault}}) {
+        dialog.Open();
+        dialog.ClickKeepHistory(click);
+        (dialog.*confirm)();
+    }
+    EXPECT_EQ(stored, (std::vector<bool>{true, false}));
+    EXPECT_EQ(keep, u"0");
+}
+
 }  // namespace
 }  // namespace tessarondel
