@@ -31,10 +31,8 @@ InstanceChannel::InstanceChannel(QString socketPath) : path_(std::move(socketPat
 
 bool InstanceChannel::Listen(std::function<void()> onShow) {
     onShow_ = std::move(onShow);
-    if (server_.listen(path_)) return true;
-    // Only the lock holder listens, so a socket already there has no live
-    // instance behind it.
-    QLocalServer::removeServer(path_);
+    // With an access option Qt binds in a private folder and renames the
+    // socket into place, which replaces a file left by a crashed run.
     return server_.listen(path_);
 }
 

@@ -8,8 +8,9 @@
 namespace tessarondel {
 
 // How a later launch reaches the running instance: a local socket in the
-// user's runtime directory, open to that user only. The instance holding the
-// InstanceLock listens; a later launch answered No asks it to show its window.
+// user's runtime directory, open to that user only. Only the instance holding
+// the InstanceLock listens, so a socket file found there is a crashed run's; a
+// later launch answered No asks the listener to show its window.
 class InstanceChannel final : public QObject {
     Q_OBJECT
 public:

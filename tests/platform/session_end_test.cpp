@@ -27,10 +27,10 @@ TEST_P(SessionEnds, RunTheExitOnce) {
     EXPECT_EQ(exits, 1);
 }
 
+const auto Raise = [](int number) { return [number](SessionEnd&) { std::raise(number); }; };
 INSTANTIATE_TEST_SUITE_P(Ways, SessionEnds,
-                         ::testing::Values(Ending{"SIGTERM", [](SessionEnd&) { std::raise(SIGTERM); }},
-                                           Ending{"SIGHUP", [](SessionEnd&) { std::raise(SIGHUP); }},
-                                           Ending{"SIGINT", [](SessionEnd&) { std::raise(SIGINT); }},
+                         ::testing::Values(Ending{"SIGTERM", Raise(SIGTERM)}, Ending{"SIGHUP", Raise(SIGHUP)},
+                                           Ending{"SIGINT", Raise(SIGINT)},
                                            Ending{"CommitData", [](SessionEnd& s) { s.CommitData(); }}),
                          [](const auto& info) { return std::string(info.param.name); });
 
@@ -38,7 +38,6 @@ INSTANTIATE_TEST_SUITE_P(Ways, SessionEnds,
 TEST(SessionEnd, FrameCloseHidesUntilTheExitBegins) {
     for (const bool exiting : {false, true}) {
         testing::MainWindowHarness h;
-        h.window.show();
         if (exiting) h.window.AllowClose();
         QCloseEvent close;
         QCoreApplication::sendEvent(&h.window, &close);
