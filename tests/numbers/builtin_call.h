@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <ostream>
+#include <charconv>
+#include <regex>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "numbers/builtins.h"
 #include "numbers/error_sink.h"
 #include "numbers/number_text.h"
+#include "numbers/run_failure.h"
 #include "numbers/slot_list.h"
 #include "numbers/text_rules.h"
 
@@ -46,35 +48,51 @@ inline CallOutcome CallWith(std::string_view name, const std::vector<double>& ar
     return outcome;
 }
 
-// Expected values are exact, or written down to 15 significant digits.
-enum class Match { Exact, FifteenDigits };
-
-struct CallRow {
-    std::string label;
-    std::string function;
-    std::vector<double> arguments;
-    double expected = 0;
-    std::vector<int> reports = {};
-    Match match = Match::Exact;
-};
-
-inline void PrintTo(const CallRow& row, std::ostream* out) { *out << row.label; }
-
-// Names parameterised tests after their row's label.
-template <typename Row>
-std::string RowName(const ::testing::TestParamInfo<Row>& info) {
-    return info.param.label;
+// A value in a table: a number, or pi, big (BigValue) or halfpi (2*atan(1), not PiValue / 2) with a
+// sign, a factor and a divisor, "-3pi/2" being -(3*PiValue)/2.
+inline double ValueOf(const std::string& token) {
+    static const std::regex named(R"((-?)(\d*)(pi|big|halfpi)(?:/(\d+))?)");
+    std::smatch part;
+    double x = 0;
+    if (!std::regex_match(token, part, named)) {
+        std::from_chars(token.data(), token.data() + token.size(), x);
+        return x;
+    }
+    x = part[3] == "pi" ? PiValue : part[3] == "big" ? BigValue : 1.5707963267948966;
+    if (part[2].length() > 0) x *= std::stoi(part[2]);
+    if (part[4].length() > 0) x /= std::stoi(part[4]);
+    return part[1].length() > 0 ? -x : x;
 }
 
-inline void ExpectRow(const CallRow& row) {
-    const CallOutcome outcome = CallWith(row.function, row.arguments);
-    SCOPED_TRACE("shown as " + testing_text::Narrow(DisplayNumberText(outcome.value)));
-    if (row.match == Match::Exact) {
-        EXPECT_EQ(outcome.value, row.expected);
-    } else {
-        EXPECT_NEAR(outcome.value, row.expected, std::abs(row.expected) * 1E-14);
+// The blank-separated values, or report numbers, of a table field.
+inline std::vector<double> Values(const std::string& field) {
+    std::istringstream words(field);
+    std::vector<double> out;
+    for (std::string word; words >> word;) out.push_back(ValueOf(word));
+    return out;
+}
+
+inline std::vector<int> Ints(const std::string& field) {
+    std::istringstream words(field);
+    std::vector<int> out;
+    for (int n = 0; words >> n;) out.push_back(n);
+    return out;
+}
+
+// A value, or the kind of run-time failure, the way the tables write them.
+template <typename Read>
+std::string Outcome(Read read) {
+    try {
+        return ::testing::PrintToString(read());
+    } catch (const OverflowFailure&) {
+        return "overflow";
+    } catch (const RunFailure&) {
+        return "failure";
     }
-    EXPECT_EQ(outcome.reports, row.reports);
+}
+
+inline std::string Expected(const std::string& field) {
+    return field == "overflow" || field == "failure" ? field : ::testing::PrintToString(ValueOf(field));
 }
 
 }  // namespace tessarondel::testing_builtins
