@@ -35,24 +35,6 @@ inline Outcome EvaluateFresh(std::string_view utf8) {
     return Evaluate(state, utf8);
 }
 
-// Rows: expression, then the result text, or "Error" and the error number.
-struct EvaluationRow {
-    const char* name;
-    const char* expression;
-    const char* result;
-    int error = -1;
-};
-
-inline void PrintTo(const EvaluationRow& row, std::ostream* out) { *out << row.expression; }
-
-inline std::string RowName(const ::testing::TestParamInfo<EvaluationRow>& info) { return info.param.name; }
-
-inline void ExpectRow(const EvaluationRow& row) {
-    const Outcome outcome = EvaluateFresh(row.expression);
-    EXPECT_EQ(outcome.result, row.result);
-    EXPECT_EQ(outcome.error, row.error);
-}
-
 inline std::vector<std::pair<std::string, std::string>> Variables(EngineState& state) {
     std::vector<VariableRecord> records;
     const int count = GetVariableSnapshot(state, records);

@@ -2,69 +2,40 @@
 
 #include <algorithm>
 #include <random>
-#include <utility>
-#include <vector>
 
 #include "engine/engine_fixture.h"
 #include "engine/token_reader.h"
 #include "numbers/text_rules.h"
+#include "table_file.h"
 
 namespace tessarondel {
 namespace {
 
-using Token = std::pair<std::string, int>;
-
-// Reads the whole stream; the reader's error number, or -1.
-std::vector<Token> ReadAll(EngineState& state, std::u16string_view stream, int& error) {
+// Reads the whole stream: the tokens as "text:kind" separated by blanks; the reader's error number, or -1.
+std::string ReadAll(EngineState& state, std::u16string_view stream, int& error) {
     state.TokenStream.Assign(std::u16string(stream));
-    std::vector<Token> tokens;
+    std::string tokens;
     for (int guard = 0; guard < 100; ++guard) {
         ReadToken(state);
         if (state.TokenKind == TokenNone) break;
-        tokens.emplace_back(ToUtf8(state.CurrentToken), state.TokenKind);
+        tokens += (tokens.empty() ? "" : " ") + ToUtf8(state.CurrentToken) + ":" + std::to_string(state.TokenKind);
     }
     error = state.ErrorFlag ? state.ErrorNumber : -1;
     return tokens;
 }
 
-struct ReaderRow {
-    const char* name;
-    const char16_t* stream;
-    std::vector<Token> tokens;
-    int error = -1;
-};
-
-void PrintTo(const ReaderRow& row, std::ostream* out) { *out << ToUtf8(row.stream); }
-
-class Reader : public testing::TestWithParam<ReaderRow> {};
+class Reader : public testing::TestWithParam<testing_table::Row> {};
 
 TEST_P(Reader, CutsTokensOffTheFront) {
-    const ReaderRow& row = GetParam();
+    const testing_table::Row& row = GetParam();
     EngineState state = testing_engine::FreshEngine();
     int error = -1;
-    EXPECT_EQ(ReadAll(state, row.stream, error), row.tokens);
-    EXPECT_EQ(error, row.error);
+    EXPECT_EQ(ReadAll(state, ToUtf16(row[1]), error), row[2]);
+    EXPECT_EQ(error, row.Int(3));
 }
 
-const ReaderRow kReaderRows[] = {
-    {"TwoCharacterOperator", u"a == b", {{"a", 104}, {"==", 101}, {"b", 104}}},
-    {"TwoCharacterOperatorNeedsAFollower", u"a==", {{"a", 104}, {"=", 101}, {"=", 101}}},
-    {"StreamOperators",
-     u"1%%2%\\3%!4",
-     {{"1", 103}, {"%%", 101}, {"2", 103}, {"%\\", 101}, {"3", 103}, {"%!", 101}, {"4", 103}}},
-    {"FunctionName", u"sin(1)", {{"sin", 102}, {"(", 101}, {"1", 103}, {")", 101}}},
-    {"NumberRunsToDelimiter", u"12.5e3+1", {{"12.5e3", 103}, {"+", 101}, {"1", 103}}},
-    {"BaseLiteral", u"$HFF+1", {{"$HFF", 103}, {"+", 101}, {"1", 103}}},
-    {"TwoBaseLiterals", u"$hff$h10", {{"$hff", 103}, {"$h10", 103}}},
-    {"UnreadableNearTheEnd", u"7\\2", {{"7", 103}}, 3},
-    {"UnreadableEarlierEndsSilently", u"7\\22", {{"7", 103}}},
-    {"BangAtTheEnd", u"5!", {{"5", 103}}, 3},
-    {"BangFirstWithRoom", u"!555", {}},
-    {"DollarWithoutPrefix", u"$x12", {}},
-    {"BlanksAroundAreTrimmed", u"   x   ", {{"x", 104}}},
-};
-INSTANTIATE_TEST_SUITE_P(Rows, Reader, testing::ValuesIn(kReaderRows),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, Reader, testing::ValuesIn(testing_table::ReadTable("engine/reader.tsv")),
+                         testing_table::RowName);
 
 // A text of readable characters is read whole, without error; the token
 // stream skips the walk for custom calls on such texts, which it cannot stop in.

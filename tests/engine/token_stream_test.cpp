@@ -5,77 +5,23 @@
 #include "engine/engine_fixture.h"
 #include "engine/exponent_scan.h"
 #include "engine/name_lists.h"
+#include "table_file.h"
 
 namespace tessarondel {
 namespace {
 
-struct StreamRow {
-    const char* name;
-    const char* source;
-    const char* stream;  // the token stream; "" after an error that stops the build
-    int error = -1;      // the error number left behind, -1 for none
-};
-
-void PrintTo(const StreamRow& row, std::ostream* out) { *out << row.source; }
-
-class TokenStreamRows : public testing::TestWithParam<StreamRow> {};
+// Rows: name, source, the token stream ("" after an error that stops the build), the error number left behind.
+class TokenStreamRows : public testing::TestWithParam<testing_table::Row> {};
 
 TEST_P(TokenStreamRows, RewriteAndCheck) {
-    const StreamRow& row = GetParam();
+    const testing_table::Row& row = GetParam();
     EngineState state = testing_engine::FreshEngine();
-    const std::u16string stream = BuildTokenStream(state, ToUtf16(row.source));
-    EXPECT_EQ(ToUtf8(stream), row.stream);
-    EXPECT_EQ(state.ErrorFlag ? state.ErrorNumber : -1, row.error);
+    EXPECT_EQ(ToUtf8(BuildTokenStream(state, ToUtf16(row[1]))), row[2]);
+    EXPECT_EQ(state.ErrorFlag ? state.ErrorNumber : -1, row.Int(3));
 }
 
-const StreamRow kStreamRows[] = {
-    // Lower case, word operators, constants, aliases.
-    {"WordOperatorsAndCase", "A>=1 AND b MOD 2", "a>=1 & b %% 2"},
-    {"SignPassAndConstants", "-pi/2+e", "0-3.14159265358979/2+2.71828182845905"},
-    {"AllWordOperators", "1xor2 eqv3imp4div5or6", "1%!2 %~3%>4%\\5|6"},
-    {"ExponentErrorLetsThePassesGoOn", "1xor2eqv3", "1%!2%~3", 5},
-    {"DigitsEndWords", "x1and2", "x1&2"},
-    {"TrailingWordOperator", "a1or", "a1|"},
-    {"UnderscoreJoinsAWord", "_and", "_and"},
-    {"WordInsideAWordStays", "sand", "sand"},
-    {"AliasesRewritten", "hsin(1)+ator(2)+product(3)", "sh(1)+angtorad(2)+prod(3)"},
-    {"TrueAndFalse", "true+false", "(0-1)+(0)"},
-    {"EpsAndInf", "eps+inf", "(9.88131291682493*(10^(0-14)))+(1.79769313486231*(10^308))"},
-    {"ComparedConstantPasses", "pi==3", "3.14159265358979==3"},
-    {"EqualsLastPasses", "pi=", "3.14159265358979="},
-    // Percent, exponents and signs.
-    {"Percent", "50%", "50*(0.01)"},
-    {"PercentBeforeNumber", "5%3", "", 0},
-    {"Exponent", "1.5e-3", "1.5*(10^-3)"},
-    {"ExponentInName", "x2e3", "x2*(10^3)"},
-    {"ExponentTakesBlanks", "1e5 + 3", "1*(10^5 )+ 3"},
-    {"SignsAtStartAndAfterBracket", "--3+(-3)", "0--3+(0-3)"},
-    {"TabsAndCrLfBecomeBlanks", "1\t+\r\n2", "1 + 2"},
-    // Errors that stop the build.
-    {"ImpliedMultiplication", "(1)(2)", "", 0},
-    {"NumberBeforeBracket", "2(3)", "", 0},
-    {"ConstantBeforeBracket", "pi(2)", "", 0},
-    {"TokenBehindBracket", ")1(", "", 0},
-    {"FunctionBehindBracket", "(2)sin(3)", "", 0},
-    {"NameBehindBracket", "(2)3", "", 0},
-    {"BlankInsideToken", "a b", "", 8},
-    {"PointInName", "a.b", "", 8},
-    {"UnderscoreOnly", "_", "", 8},
-    {"OtherCharacter", "a#", "", 8},
-    {"NonAsciiLetter", "\xC3\xA9", "", 8},
-    {"KelvinSignIsNoLetter", "\xE2\x84\xAA", "", 8},
-    {"DigitThenLetters", "2x", "", 4},
-    {"DigitThenFunction", "2sin", "", 4},
-    {"DigitThenFunctionCall", "2sin(1)", "", 0},
-    {"AssignToConstant", "pi=3", "", 7},
-    {"AssignToFunction", "sin=3", "", 12},
-    // Errors that let the passes go on: the last number stands.
-    {"ExponentBlank", "1e 5", "", 8},
-    {"ExponentPoint", "1e2.5", "", 8},
-    {"EmptyTextIsFine", "", ""},
-};
-INSTANTIATE_TEST_SUITE_P(Rows, TokenStreamRows, testing::ValuesIn(kStreamRows),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, TokenStreamRows, testing::ValuesIn(testing_table::ReadTable("engine/token-streams.tsv")),
+                         testing_table::RowName);
 
 // Constants and aliases that are also custom function names, which only the
 // name list of the state can make them: the replacement is checked where it

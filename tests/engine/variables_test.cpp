@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/engine_fixture.h"
+#include "table_file.h"
 
 namespace tessarondel {
 namespace {
@@ -11,41 +12,23 @@ using Vars = std::vector<std::pair<std::string, std::string>>;
 using testing_engine::Evaluate;
 using testing_engine::Variables;
 
-struct AssignmentRow {
-    const char* name;
-    std::vector<const char*> expressions;
-    const char* lastResult;
-    int lastError;
-    Vars variables;
-};
-
-void PrintTo(const AssignmentRow& row, std::ostream* out) { *out << row.name; }
-
-class Assignment : public testing::TestWithParam<AssignmentRow> {};
+// Rows: name, expressions separated by " ; ", the last result and its error number, the variables as name=value.
+class Assignment : public testing::TestWithParam<testing_table::Row> {};
 
 TEST_P(Assignment, LeavesTheseVariables) {
-    const AssignmentRow& row = GetParam();
+    const testing_table::Row& row = GetParam();
     EngineState state = testing_engine::FreshEngine();
     testing_engine::Outcome outcome;
-    for (const char* expression : row.expressions) outcome = Evaluate(state, expression);
-    EXPECT_EQ(outcome.result, row.lastResult);
-    EXPECT_EQ(outcome.error, row.lastError);
-    EXPECT_EQ(Variables(state), row.variables);
+    for (const std::string& expression : testing_table::Split(row[1])) outcome = Evaluate(state, expression);
+    EXPECT_EQ(outcome.result, row[2]);
+    EXPECT_EQ(outcome.error, row.Int(3));
+    std::string variables;
+    for (const auto& [name, value] : Variables(state)) variables += (variables.empty() ? "" : " ") + name + "=" + value;
+    EXPECT_EQ(variables, row[4]);
 }
 
-const AssignmentRow kAssignmentRows[] = {
-    {"NamesAreLowerCased", {"X=2", "x+1"}, "3", -1, {{"x", "2"}}},
-    {"ValueTextHasNoLeadingZero", {"x=0.5"}, "0.5", -1, {{"x", ".5"}}},
-    {"NoChainOfAssignments", {"a=b=3"}, "0", -1, {{"a", "0"}, {"b", "0"}}},
-    {"BracketAllowsNestedAssignment", {"a=(b=3)"}, "3", -1, {{"a", "3"}, {"b", "3"}}},
-    {"OldValueReadFirst", {"x=1", "x=x+1"}, "2", -1, {{"x", "2"}}},
-    {"TinyValueKept", {"a=1e-20"}, "0", -1, {{"a", "1E-20"}}},
-    {"BuildErrorCreatesNothing", {"a b2"}, "Error", 8, {}},
-    {"BlankNameAfterFunction", {"sin (1)"}, "0", -1, {{"sin", "0"}}},
-    {"ValidNames", {"a1=3", "x_1=2", "_a=1"}, "1", -1, {{"a1", "3"}, {"x_1", "2"}, {"_a", "1"}}},
-};
-INSTANTIATE_TEST_SUITE_P(Rows, Assignment, testing::ValuesIn(kAssignmentRows),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, Assignment, testing::ValuesIn(testing_table::ReadTable("engine/assignments.tsv")),
+                         testing_table::RowName);
 
 TEST(ClearVariables, EmptiesTheTableAndRestartsAtSlotOne) {
     EngineState state = testing_engine::FreshEngine();
