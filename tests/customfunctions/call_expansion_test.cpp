@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine_fixture.h"
+#include "table_file.h"
 
 namespace tessarondel {
 namespace {
@@ -10,52 +11,26 @@ namespace {
 using testing::Definition;
 using testing::EngineFixture;
 
-// j(x) = x+1, jj(a,b) = a*b, w() = 1+2, k(x) = error
-const std::vector<Definition> Functions = {
-    {u"j", u"x", u"x+1"}, {u"jj", u"a,b", u"a*b"}, {u"w", u"", u"1+2"}, {u"k", u"x", u"error"}};
+const std::vector<Definition> Functions = testing::DefinitionsOf("j(x)=x+1 ; jj(a,b)=a*b ; w()=1+2 ; k(x)=error");
 
-struct ExpansionRow {
-    const char* name;
-    const char16_t* text;
-    const char16_t* expanded;
-    int errorNumber;  // afterwards; 4 stood before
-    bool reported;
-};
+using testing_table::Row;
 
-class ExpandCustomFunctionCallsTest : public ::testing::TestWithParam<ExpansionRow> {};
+class ExpandCustomFunctionCallsTest : public ::testing::TestWithParam<Row> {};
 
 TEST_P(ExpandCustomFunctionCallsTest, RewritesTheText) {
-    const ExpansionRow& row = GetParam();
+    const Row& row = GetParam();
     EngineFixture engine;
     engine.DefineAll(Functions);
     engine.state.ErrorNumber = 4;
-    EXPECT_EQ(ToUtf8(ExpandCustomFunctionCalls(engine.state, row.text)), ToUtf8(row.expanded));
-    EXPECT_EQ(engine.state.ErrorNumber, row.errorNumber);
-    EXPECT_EQ(engine.state.ErrorFlag, row.reported);
+    EXPECT_EQ(ToUtf8(ExpandCustomFunctionCalls(engine.state, ToUtf16(row[1]))), row[2]);
+    EXPECT_EQ(engine.state.ErrorNumber, row.Int(3));
+    EXPECT_EQ(engine.state.ErrorFlag, row[4] == "yes");
     EXPECT_EQ(engine.state.VariableNames, u"");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Calls, ExpandCustomFunctionCallsTest,
-    ::testing::Values(ExpansionRow{"OneCallLeavesNinetyNine", u"j(1)*2", u"((1)+1)*2", 99, false},
-                      ExpansionRow{"TwoSpellingsTwoScans", u"j(1)+j( 1)", u"((1)+1)+((1)+1)", 99, false},
-                      ExpansionRow{"SearchIsTextual", u"gj(1)+j(2)", u"g((1)+1)+((2)+1)", 99, false},
-                      ExpansionRow{"NoParameterBodyWithoutBrackets", u"w()*2", u"1+2*2", 4, false},
-                      ExpansionRow{"NoParameterWithText", u"w(1)", u"w(1)", 5, true},
-                      ExpansionRow{"NoParameterWithBlank", u"w( )", u"w( )", 5, true},
-                      ExpansionRow{"EmptyCallFirstInThePass", u"j()", u"j()", 99, true},
-                      ExpansionRow{"EmptyCallAfterAGoodOne", u"j(1)+j()", u"((1)+1)+j()", 5, true},
-                      ExpansionRow{"EmptyArgument", u"jj(1,,2)", u"jj(1,,2)", 5, true},
-                      ExpansionRow{"BlankArgumentOfTheRightCount", u"jj(1, )", u"jj(1, )", 5, true},
-                      ExpansionRow{"WrongCount", u"j(1,2)", u"j(1,2)", 5, true},
-                      ExpansionRow{"NestedCommasStayTogether", u"jj(max(1,2),3)", u"((max(1,2))*(3))", 99, false},
-                      ExpansionRow{"LeftmostFirstThenRestart", u"jj(j(1),2)", u"((((1)+1))*(2))", 99, false},
-                      ExpansionRow{"MissingBracket", u"j(1", u"j(1", 1, true},
-                      ExpansionRow{"ExtraBracketStays", u"j(1))", u"((1)+1))", 99, false},
-                      ExpansionRow{"BlankBeforeBracket", u"j (1)", u"j (1)", 4, true},
-                      ExpansionRow{"BlankJoinsTheTokenBefore", u"q j(1)", u"q j(1)", 4, false},
-                      ExpansionRow{"BodyBindsToTheWordError", u"k(1)+2", u"+2", 99, true}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, ExpandCustomFunctionCallsTest,
+                         ::testing::ValuesIn(testing_table::ReadTable("customfunctions/call-expansions.tsv")),
+                         testing_table::RowName);
 
 // The worked example: the body assigns the global s and yields sqrt(s).
 TEST(ExpandCustomFunctionCalls, WorkedExample) {
@@ -78,36 +53,20 @@ TEST(ExpandCustomFunctionCalls, APositionBeyondSixteenBitsOverflows) {
     EXPECT_EQ(engine.state.ErrorNumber, 6);
 }
 
-struct EvaluationRow {
-    const char* name;
-    std::vector<Definition> definitions;
-    std::vector<const char16_t*> expressions;  // evaluated in turn; the last one's result is checked
-    const char* result;
-    int errorNumber;  // checked when the result is "Error"
-};
-
-class CustomCallEvaluationTest : public ::testing::TestWithParam<EvaluationRow> {};
-
-TEST_P(CustomCallEvaluationTest, Evaluates) {
-    const EvaluationRow& row = GetParam();
-    EngineFixture engine;
-    engine.DefineAll(row.definitions);
-    std::string result;
-    for (const char16_t* expression : row.expressions) result = engine.Evaluate(expression);
-    EXPECT_EQ(result, row.result);
-    if (std::string(row.result) == "Error") {
-        EXPECT_EQ(engine.state.ErrorNumber, row.errorNumber);
+TEST(CustomCallEvaluation, Evaluates) {
+    for (const Row& row : testing_table::ReadTable("customfunctions/custom-calls.tsv")) {
+        SCOPED_TRACE(row[0]);
+        EngineFixture engine;
+        engine.DefineAll(testing::DefinitionsOf(row[1]));
+        std::string result;
+        for (const std::string& expression : testing_table::Split(row[2]))
+            result = engine.Evaluate(ToUtf16(expression));
+        EXPECT_EQ(result, row[3]);
+        if (result == "Error") {
+            EXPECT_EQ(engine.state.ErrorNumber, row.Int(4));
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Expressions, CustomCallEvaluationTest,
-    ::testing::Values(
-        EvaluationRow{"BlanksLeaveParametersUnmarked", {{u"k", u"x,y", u"x + y"}}, {u"x=5", u"k(1,2)"}, "5", 0},
-        EvaluationRow{"UnusedParameterStillCounts", {{u"k", u"x,y,z", u"x+y"}}, {u"k(1,2)"}, "Error", 5},
-        EvaluationRow{"NameWithABlank", {{u"my fn", u"x", u"x+1"}}, {u"2*My fn(2)"}, "6", 0},
-        EvaluationRow{"NinetyNineLeftBehind", {{u"j", u"x", u"x+1"}}, {u"j(1)", u"j+1"}, "Error", 99}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 // Dropping a name the engine doesn't hold shifts every entry one slot down:
 // j then reaches k's body, whatever that holds.

@@ -7,6 +7,7 @@
 
 #include "customfunctions/windows1252.h"
 #include "engine/text_codec.h"
+#include "table_file.h"
 
 namespace tessarondel {
 namespace {
@@ -19,72 +20,23 @@ std::string Crlf(std::initializer_list<std::string_view> lines) {
 
 const std::string Magic = "%%Tessarondel Custom Function Document - 1.0";
 
-struct ParseRow {
-    const char* name;
-    std::string bytes;
-    bool kept;
-    // Expected fields in UTF-8; checked only when the document is kept.
-    std::string functionName = {}, parameters = {}, expression = {}, description = {};
-};
+class ParseDocumentTest : public ::testing::TestWithParam<testing_table::Row> {};
 
-class ParseDocumentTest : public ::testing::TestWithParam<ParseRow> {};
-
+// Rows: name, bytes, whether the document is kept, then its four texts in UTF-8.
 TEST_P(ParseDocumentTest, ReadsTheSectionsAsWritten) {
-    const ParseRow& row = GetParam();
-    const auto document = ParseDocument(row.bytes);
-    ASSERT_EQ(document.has_value(), row.kept);
-    if (!row.kept) return;
-    EXPECT_EQ(ToUtf8(document->Name), row.functionName);
-    EXPECT_EQ(ToUtf8(document->ParameterText), row.parameters);
-    EXPECT_EQ(ToUtf8(document->Expression), row.expression);
-    EXPECT_EQ(ToUtf8(document->Description), row.description);
+    const testing_table::Row& row = GetParam();
+    const auto document = ParseDocument(row[1]);
+    ASSERT_EQ(document.has_value(), row[2] == "yes");
+    if (!document) return;
+    EXPECT_EQ(ToUtf8(document->Name), row[3]);
+    EXPECT_EQ(ToUtf8(document->ParameterText), row[4]);
+    EXPECT_EQ(ToUtf8(document->Expression), row[5]);
+    EXPECT_EQ(ToUtf8(document->Description), row[6]);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Sections, ParseDocumentTest,
-    ::testing::Values(
-        ParseRow{"TextBeforeMagicAndIndentedHeaders",
-                 Crlf({"junk", "  " + Magic, "  [Function Name]", "k", " [Parameter List] ", "", "[Expression List]",
-                       "3", "[Description]"}),
-                 true, "k", "", "3\r\n", ""},
-        ParseRow{"NameWithoutExpressionIsDropped", Crlf({Magic, "[Function Name]", "k"}), false},
-        ParseRow{"EmptyNameSectionTakesNoHeader",
-                 Crlf({Magic, "[Function Name]", "", "[Parameter List]", "[Expression List]", "1"}), false},
-        ParseRow{"TabLedHeaderIsNoHeader",
-                 Crlf({Magic, "[Function Name]", "k", "\t[Parameter List]", "x", "[Parameter List]", "y",
-                       "[Expression List]", "y"}),
-                 true, "k", "y", "y\r\n", ""},
-        ParseRow{"LowerCaseDescriptionHeaderStaysInExpression",
-                 Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1", "[description]",
-                       "text"}),
-                 true, "k", "", "1\r\n[description]\r\ntext\r\n", ""},
-        ParseRow{
-            "SecondParameterLineIsLost",
-            Crlf({Magic, "[Function Name]", "k", "", "kk", "[Parameter List]", "", "a", "b", "[Expression List]", "a"}),
-            true, "k", "a", "a\r\n", ""},
-        ParseRow{"LineOfSpacesComesBackEmpty",
-                 Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1", "    ", "2",
-                       "[Description]", "  d  "}),
-                 true, "k", "", "1\r\n\r\n2\r\n", "d\r\n"},
-        ParseRow{"LoneLineFeedStaysInTheLine",
-                 Magic + "\r\n[Function Name]\r\nk\r\n[Parameter List]\r\n[Expression List]\r\n1\n2\r\n", true, "k", "",
-                 "1\n2\r\n", ""},
-        ParseRow{"CarriageReturnAloneEndsALine",
-                 Magic + "\r[Function Name]\rk\r[Parameter List]\r\r[Expression List]\r1\r[Description]\rd", true, "k",
-                 "", "1\r\n", "d\r\n"},
-        ParseRow{"ExpressionOutOfOrderIsSwallowedByTheName",
-                 Crlf({Magic, "[Function Name]", "[Expression List]", "1", "[Parameter List]", "x", "[Description]"}),
-                 false},
-        ParseRow{"DescriptionHeaderInsideExpressionEndsIt",
-                 Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]", "1", "[Description]",
-                       "[Description]", "2"}),
-                 true, "k", "", "1\r\n", "[Description]\r\n2\r\n"},
-        ParseRow{"Windows1252Bytes",
-                 Crlf({Magic, "[Function Name]", "k", "[Parameter List]", "", "[Expression List]",
-                       "1 ' \x93quoted\x94 \x80", "[Description]", "\x80"}),
-                 true, "k", "", "1 ' \u201Cquoted\u201D \u20AC\r\n", "\u20AC\r\n"},
-        ParseRow{"NoMagicIsDropped", Crlf({"[Function Name]", "k", "[Expression List]", "1"}), false}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, ParseDocumentTest,
+                         ::testing::ValuesIn(testing_table::ReadTable("customfunctions/documents.tsv")),
+                         testing_table::RowName);
 
 TEST(Windows1252, MapsThePunctuationRangeBothWaysAndTheRestToQuestionMarks) {
     const std::string bytes = "\x80\x93\x94\x81\xA0\xFF";

@@ -8,12 +8,24 @@
 #include "customfunctions/engine/function_table.h"
 #include "engine/engine.h"
 #include "engine/text_codec.h"
+#include "table_file.h"
 
 namespace tessarondel::testing {
 
 struct Definition {
     std::u16string name, parameters, body;
 };
+
+// Definitions written "name(parameters)=body", several separated by " ; ".
+inline std::vector<Definition> DefinitionsOf(const std::string& field) {
+    std::vector<Definition> out;
+    for (const std::string& text : testing_table::Split(field)) {
+        const std::size_t open = text.find('('), close = text.find(")=", open);
+        out.push_back({ToUtf16(text.substr(0, open)), ToUtf16(text.substr(open + 1, close - open - 1)),
+                       ToUtf16(text.substr(close + 2))});
+    }
+    return out;
+}
 
 // A fresh engine with the boxes it would show recorded instead.
 class EngineFixture {

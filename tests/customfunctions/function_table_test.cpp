@@ -4,6 +4,7 @@
 
 #include "engine_fixture.h"
 #include "numbers/run_failure.h"
+#include "table_file.h"
 
 namespace tessarondel {
 namespace {
@@ -11,69 +12,33 @@ namespace {
 using testing::Definition;
 using testing::EngineFixture;
 
-struct AddRow {
-    const char* name;
-    std::vector<Definition> before;
-    Definition added;
-    bool accepted;
-    int errorNumber;  // ErrorNumber afterwards; the number before the add is 4
-};
+using testing_table::Row;
 
-class AddCustomFunctionTest : public ::testing::TestWithParam<AddRow> {};
+class AddCustomFunctionTest : public ::testing::TestWithParam<Row> {};
 
 TEST_P(AddCustomFunctionTest, ChecksInOrder) {
-    const AddRow& row = GetParam();
+    const Row& row = GetParam();
     EngineFixture engine;
-    engine.DefineAll(row.before);
+    engine.DefineAll(testing::DefinitionsOf(row[1]));
     const std::u16string namesBefore = engine.state.CustomFunctionNames;
     engine.state.ErrorNumber = 4;
     engine.state.ShowErrorBox = true;
-    EXPECT_EQ(DefineCustomFunction(engine.state, row.added.name, row.added.parameters, row.added.body, u""),
-              row.accepted);
-    EXPECT_EQ(engine.state.ErrorNumber, row.errorNumber);
-    if (row.accepted) {
+    const Definition added = testing::DefinitionsOf(row[2]).at(0);
+    EXPECT_EQ(DefineCustomFunction(engine.state, added.name, added.parameters, added.body, u""), row[3] == "yes");
+    EXPECT_EQ(engine.state.ErrorNumber, row.Int(4));
+    if (row[3] == "yes") {
         EXPECT_TRUE(engine.boxes.empty());
         return;
     }
     EXPECT_EQ(engine.state.CustomFunctionNames, namesBefore);
     EXPECT_TRUE(engine.state.ErrorFlag);
     ASSERT_EQ(engine.boxes.size(), 1u);
-    const std::string prefix = "ErrNum:" + std::to_string(row.errorNumber) + "\r\n";
-    EXPECT_EQ(ToUtf8(engine.boxes[0]).substr(0, prefix.size()), prefix);
+    EXPECT_EQ(ToUtf8(engine.boxes[0]).substr(0, 9 + row[4].size()), "ErrNum:" + row[4] + "\r\n");
 }
 
-const std::vector<Definition> Area = {{u"area", u"r", u"pi*r^2"}};
-
-// Each reserved list once, then the checks after the name in their order.
-INSTANTIATE_TEST_SUITE_P(
-    Refusals, AddCustomFunctionTest,
-    ::testing::Values(AddRow{"BlankName", {}, {u"  ", u"", u""}, false, 8},
-                      AddRow{"InsideMax", {}, {u"a", u"", u"1"}, false, 9},
-                      AddRow{"AliasPart", {}, {u"ator", u"", u"1"}, false, 9},
-                      AddRow{"WordOperator", {}, {u"xor", u"", u"1"}, false, 9},
-                      AddRow{"UpperCaseConstant", {}, {u"PI", u"", u"1"}, false, 9},
-                      AddRow{"CommaOfTheLists", {}, {u",", u"", u"1"}, false, 9},
-                      AddRow{"PartOfCustomName", Area, {u"are", u"x", u"x"}, false, 9},
-                      AddRow{"ReservedBeforeBlankBody", {}, {u"max", u"", u" "}, false, 9},
-                      AddRow{"BlankBody", {}, {u"j", u"x", u"  "}, false, 2},
-                      AddRow{"DirectRecursion", {}, {u"j", u"x", u"j(x)+1"}, false, 10},
-                      AddRow{"TextualRecursion", {}, {u"k", u"x", u"kk(x)+1"}, false, 10},
-                      AddRow{"UpperCaseCallInBody", {{u"jj", u"x", u"K(x)*2"}}, {u"k", u"x", u"x"}, false, 10},
-                      AddRow{"TrailingComma", Area, {u"j", u"a,b,", u"a+b"}, false, 4}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-INSTANTIATE_TEST_SUITE_P(
-    Accepted, AddCustomFunctionTest,
-    ::testing::Values(
-        AddRow{"Log2", {}, {u"log2", u"x", u"log(x)/log(2)"}, true, 4},
-        AddRow{"TheFreeLettersAndUnderscore",
-               {{u"j", u"", u"1"}, {u"k", u"", u"1"}, {u"w", u"", u"1"}, {u"y", u"", u"1"}, {u"_", u"", u"1"}},
-               {u"z", u"", u"1"},
-               true,
-               4},
-        AddRow{"ExtendsCustomName", Area, {u"area2", u"x", u"x"}, true, 4},
-        AddRow{"SpacedCallEscapesTheTest", {}, {u"j", u"", u"j (1)"}, true, 4}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, AddCustomFunctionTest,
+                         ::testing::ValuesIn(testing_table::ReadTable("customfunctions/additions.tsv")),
+                         testing_table::RowName);
 
 TEST(AddCustomFunction, StoresLowerCaseTrimmedFieldsAndTheParameters) {
     EngineFixture engine;
@@ -104,33 +69,14 @@ TEST(AddCustomFunction, ErrorFlagIsOnlyClearedForTheRefusalsOwnReport) {
     EXPECT_EQ(engine.boxes, std::vector<std::u16string>{u"ErrNum:9\r\nErrInformation:Redefine the custom functions!"});
 }
 
-struct MarkRow {
-    const char* name;
-    const char16_t* parameters;
-    const char16_t* body;
-    const char16_t* compiled;
-};
-
-class CompileBodyTest : public ::testing::TestWithParam<MarkRow> {};
-
-TEST_P(CompileBodyTest, MarksWholeNamesBetweenDelimiters) {
-    EngineFixture engine;
-    ASSERT_TRUE(DefineCustomFunction(engine.state, u"j", GetParam().parameters, GetParam().body, u""));
-    EXPECT_EQ(ToUtf8(engine.Entry(u"j").CompiledBody), ToUtf8(GetParam().compiled));
+TEST(CompileBody, MarksWholeNamesBetweenDelimiters) {
+    for (const Row& row : testing_table::ReadTable("customfunctions/compiled-bodies.tsv")) {
+        SCOPED_TRACE(row[0]);
+        EngineFixture engine;
+        ASSERT_TRUE(DefineCustomFunction(engine.state, u"j", ToUtf16(row[1]), ToUtf16(row[2]), u""));
+        EXPECT_EQ(ToUtf8(engine.Entry(u"j").CompiledBody), row[3]);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Parameters, CompileBodyTest,
-                         ::testing::Values(MarkRow{"BodyIsTheName", u"x", u"x", u"{x}"},
-                                           MarkRow{"Both", u"x", u"x+x", u"{x}+{x}"},
-                                           MarkRow{"OnlyTheLast", u"x", u"xx+x", u"xx+{x}"},
-                                           MarkRow{"BlanksHideBoth", u"x,y", u"x + y", u"x + y"},
-                                           MarkRow{"OneLongerThanTheBody", u"ab", u"7", u"{ab}"},
-                                           MarkRow{"NotInsideAFunctionName", u"x", u"max(x)", u"max({x})"},
-                                           MarkRow{"ShadowsAFunction", u"x", u"x(1)", u"{x}(1)"},
-                                           MarkRow{"SecondOfTheSameName", u"x,x", u"x+x", u"{x}+{x}"},
-                                           MarkRow{"AtTheEnd", u"x", u"2*x", u"2*{x}"},
-                                           MarkRow{"Worked", u"a,b", u"s=a^2+b^2,sqrt(s)", u"s={a}^2+{b}^2,sqrt(s)"}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(FindCustomFunctionIndex, CountsTheClosingBracesBeforeTheName) {
     EngineFixture engine;
@@ -141,36 +87,22 @@ TEST(FindCustomFunctionIndex, CountsTheClosingBracesBeforeTheName) {
     EXPECT_EQ(FindCustomFunctionIndex(engine.state, u"are"), 0);
 }
 
-struct UpdateRow {
-    const char* name;
-    Definition redefined;
-    int errorNumber;  // 4 was the number before: "no new number"
-};
-
-class UpdateRefusalTest : public ::testing::TestWithParam<UpdateRow> {};
-
-TEST_P(UpdateRefusalTest, RefusesAndKeepsTheOldSlot) {
-    EngineFixture engine;
-    engine.DefineAll({{u"j", u"a,b", u"a+b"}, {u"w", u"", u"1"}, {u"k", u"x", u"w(x)"}});
-    engine.state.ErrorNumber = 4;
-    const UpdateRow& row = GetParam();
-    EXPECT_FALSE(
-        RedefineCustomFunction(engine.state, row.redefined.name, row.redefined.parameters, row.redefined.body, u""));
-    EXPECT_EQ(engine.state.ErrorNumber, row.errorNumber);
-    EXPECT_TRUE(engine.state.ErrorFlag);
-    const CustomFunctionEntry& j = engine.Entry(u"j");
-    EXPECT_EQ(j.Expression, u"a+b");
-    EXPECT_EQ(j.CompiledBody, u"{a}+{b}");
-    EXPECT_EQ(j.Parameters.UpperBound(), 1);
+TEST(UpdateCustomFunction, RefusesAndKeepsTheOldSlot) {
+    for (const Row& row : testing_table::ReadTable("customfunctions/redefinition-refusals.tsv")) {
+        SCOPED_TRACE(row[0]);
+        EngineFixture engine;
+        engine.DefineAll(testing::DefinitionsOf("j(a,b)=a+b ; w()=1 ; k(x)=w(x)"));
+        engine.state.ErrorNumber = 4;
+        const Definition redefined = testing::DefinitionsOf(row[1]).at(0);
+        EXPECT_FALSE(RedefineCustomFunction(engine.state, redefined.name, redefined.parameters, redefined.body, u""));
+        EXPECT_EQ(engine.state.ErrorNumber, row.Int(2));
+        EXPECT_TRUE(engine.state.ErrorFlag);
+        const CustomFunctionEntry& j = engine.Entry(u"j");
+        EXPECT_EQ(j.Expression, u"a+b");
+        EXPECT_EQ(j.CompiledBody, u"{a}+{b}");
+        EXPECT_EQ(j.Parameters.UpperBound(), 1);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Refusals, UpdateRefusalTest,
-                         ::testing::Values(UpdateRow{"UnknownName", {u"zz", u"x", u"x"}, 4},
-                                           UpdateRow{"BlankBody", {u"j", u"x", u" "}, 2},
-                                           UpdateRow{"DirectRecursion", {u"j", u"x", u"j(x)"}, 10},
-                                           UpdateRow{"CalledByAnotherBody", {u"w", u"", u"2"}, 10},
-                                           UpdateRow{"BlankParameterPiece", {u"j", u"x,,y", u"x"}, 4}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(UpdateCustomFunction, ABlankParameterListKeepsTheOldParameters) {
     EngineFixture engine;

@@ -13,36 +13,25 @@ using testing::DocumentBytes;
 using testing::EngineFixture;
 using testing::TemporaryFolder;
 
-struct OrderRow {
-    const char* name;
-    const char* callerFile;
-    const char* calleeFile;
-    const char* names;   // CustomFunctionNames afterwards
-    const char* result;  // of aaa(1)
-};
-
-class ReadingOrderTest : public ::testing::TestWithParam<OrderRow> {};
-
-TEST_P(ReadingOrderTest, DecidesWhichOfTwoRelatedDocumentsIsRefused) {
-    const OrderRow& row = GetParam();
-    TemporaryFolder folder;
-    folder.Write(row.callerFile, DocumentBytes("aaa", "x", "bbb(x)+1"));
-    folder.Write(row.calleeFile, DocumentBytes("bbb", "x", "x*10"));
-    EngineFixture engine;
-    engine.state.ShowErrorBox = true;
-    const FolderReadResult result = LoadFunctionFolder(engine.state, folder.Path());
-    EXPECT_EQ(result.documents.size(), 2u);
-    EXPECT_EQ(ToUtf8(engine.state.CustomFunctionNames), row.names);
-    EXPECT_TRUE(engine.boxes.empty());
-    EXPECT_EQ(engine.Evaluate(u"aaa(1)"), row.result);
+// The callee read first defines both; the caller read first makes the callee's define a recursion,
+// refused quietly with error 10, and the caller's call of it an unknown name.
+TEST(LoadFunctionFolder, TheReadingOrderDecidesWhichOfTwoRelatedDocumentsIsRefused) {
+    const struct {
+        const char *callerFile, *calleeFile, *names, *result;  // names afterwards, result of aaa(1)
+    } rows[] = {{"b.cfd", "A.cfd", "{bbb}{aaa}", "11"}, {"A.cfd", "b.cfd", "{aaa}", "Error"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.callerFile);
+        TemporaryFolder folder;
+        folder.Write(row.callerFile, DocumentBytes("aaa", "x", "bbb(x)+1"));
+        folder.Write(row.calleeFile, DocumentBytes("bbb", "x", "x*10"));
+        EngineFixture engine;
+        engine.state.ShowErrorBox = true;
+        EXPECT_EQ(LoadFunctionFolder(engine.state, folder.Path()).documents.size(), 2u);
+        EXPECT_EQ(ToUtf8(engine.state.CustomFunctionNames), row.names);
+        EXPECT_TRUE(engine.boxes.empty());
+        EXPECT_EQ(engine.Evaluate(u"aaa(1)"), row.result);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, ReadingOrderTest,
-    ::testing::Values(OrderRow{"CalleeFirst", "b.cfd", "A.cfd", "{bbb}{aaa}", "11"},
-                      // bbb is refused with error 10, quietly; aaa's call of it is an unknown name.
-                      OrderRow{"CallerFirst", "A.cfd", "b.cfd", "{aaa}", "Error"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(LoadFunctionFolder, AFailedReadShowsItsBoxAndKeepsNothing) {
     TemporaryFolder folder;
