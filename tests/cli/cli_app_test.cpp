@@ -2,12 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "cli/completion_names.h"
+#include "cli/json_protocol.h"
+#include "customfunctions/temporary_folder.h"
 #include "engine/engine.h"
+#include "table_file.h"
 
 namespace tessarondel {
 namespace {
@@ -29,52 +33,12 @@ CliRun RunWith(const std::vector<std::string>& args, const std::string& input = 
     return run;
 }
 
-constexpr const char* kInvalid = "Error: The parameters of the functions or operators are invalid!\n";
-
-// One engine for all expressions, one line per result; the status tells whether any failed.
 TEST(Cli, PrintsOneLinePerExpression) {
-    const struct {
-        const char* label;
-        std::vector<std::string> args;
-        std::string input;
-        std::string out;
-        int status;
-    } rows[] = {
-        {"Arguments",
-         {"x=0.5", "x*3", "'note", "0-inf", "1e400*0+inf"},
-         "",
-         "0.5\n1.5\nTessarondel Note Line\n-Inf\nError: Overflow error!\n",
-         CliSomeFailed},
-        {"AllGood", {"2+3", "5 MOD 3"}, "", "5\n2\n", CliAllGood},
-        {"ErrorsShowTheMessage",
-         {"1/0", "", "foo(2)"},
-         "",
-         std::string(kInvalid) + "Error: The expression is empty!\nError: Syntax error in the expression!\n",
-         CliSomeFailed},
-        {"StandardInputLineByLine",
-         {},
-         "x=2\r\nx^10\n\n1+\n",
-         "2\n1024\nError: The expression is empty!\nError: Syntax error in the expression!\n",
-         CliSomeFailed},
-        {"LeadingMinusIsAnExpression", {"-3+2"}, "", "-1\n", CliAllGood},
-        {"DashDashEndsOptions", {"--", "--3"}, "", "3\n", CliAllGood},
-        {"RoundSetsThePlaces", {"--round", "2", "1/3"}, "", "0.33\n", CliAllGood},
-        {"RoundMinusOneIsOff", {"--round", "-1", "1/3"}, "", "0.333333333333333\n", CliAllGood},
-        {"Version", {"--version"}, "", "1.2.6688 Build 1228\n", CliAllGood},
-        {"BaseShowsResultsAsTheDisplayDoes",
-         {"--base", "hex", "255", "0-255", "1/3"},
-         "",
-         "$HFF\n-$HFF\n$H0\n",
-         CliAllGood},
-        {"Complement", {"--base", "oct", "--complement", "0-255"}, "", "$O37777777401\n", CliAllGood},
-        {"DecimalBaseIgnoresComplement", {"--base", "dec", "--complement", "0-255"}, "", "-255\n", CliAllGood},
-        {"BaseErrorsStayErrors", {"--base", "hex", "1/0"}, "", kInvalid, CliSomeFailed},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.label);
-        const CliRun run = RunWith(row.args, row.input);
-        EXPECT_EQ(run.out, row.out);
-        EXPECT_EQ(run.status, row.status);
+    for (const testing_table::Row& row : testing_table::ReadTable("cli/runs.tsv")) {
+        SCOPED_TRACE(row[0]);
+        const CliRun run = RunWith(testing_table::Split(row[1]), row[2]);
+        EXPECT_EQ(run.out, row[3]);
+        EXPECT_EQ(run.status, row.Int(4));
     }
 }
 
@@ -150,6 +114,31 @@ TEST(CompletionNames, OfferBuiltinsAliasesConstantsVariablesAndCustomFunctions) 
     engine.CustomFunctionNames = u"{sqarea}";
     EXPECT_EQ(CompletionNames(engine, "SQ"), (std::vector<std::string>{"sqarea", "sqr", "sqrt", "sqx"}));
     EXPECT_EQ(CompletionNames(engine, "p"), (std::vector<std::string>{"perm", "permutation", "pi", "prod", "product"}));
+}
+
+TEST(JsonBaseRequests, ArgumentsOfTheWrongShapeAreProtocolErrors) {
+    JsonSession session;
+    RequestTable table;
+    RegisterAllRequests(table);
+    for (const char* line :
+         {R"({"tobase":{"value":1,"base":1,"decimals":0}})", R"({"tobase":{"value":1,"base":17,"decimals":0}})",
+          R"({"tobase":{"value":1,"base":2,"decimals":5000}})", R"({"tobase":{"value":1,"base":2}})",
+          R"({"show":{"index":1.5,"complement":false}})", R"({"show":{"index":1,"complement":0}})"}) {
+        EXPECT_EQ(HandleJsonLine(session, table, line).rfind(R"({"protocol_error": )", 0), 0u) << line;
+    }
+}
+
+// The documents of the folder are defined before the expressions; one that cannot be read is reported.
+TEST(Cli, TheFunctionFolderIsDefinedBeforeTheExpressions) {
+    const testing::TemporaryFolder folder;
+    folder.Write("Twice.cfd", testing::DocumentBytes("Twice", "x", "x*2 ' doubled"));
+    const CliRun good = RunWith({"--functions", folder.Path().string(), "twice(21)"});
+    EXPECT_EQ(good.out, "42\n");
+    EXPECT_EQ(good.err, "");
+    std::filesystem::create_symlink(folder.Path() / "missing", folder.Path() / "a.cfd");
+    const CliRun failed = RunWith({"--functions", folder.Path().string(), "1+1"});
+    EXPECT_EQ(failed.out, "2\n");
+    EXPECT_EQ(failed.err, "tessarondel-cli: Some errors occurred when Loading the Custom Function!\n");
 }
 
 }  // namespace

@@ -21,16 +21,16 @@ struct GoldenCase {
 
 void PrintTo(const GoldenCase& golden, std::ostream* out) { *out << golden.id; }
 
-std::vector<GoldenCase> LoadCases() {
-    std::ifstream file(TESSARONDEL_TEST_DATA "/golden/engine-cases.jsonl");
+std::vector<GoldenCase> LoadCases(const std::string& name) {
+    std::ifstream file(TESSARONDEL_TEST_DATA "/" + name);
     std::vector<GoldenCase> cases;
     std::string line;
     while (std::getline(file, line)) {
         if (line.empty()) continue;
         const auto value = json::Parse(line);
         if (!value) continue;
-        cases.push_back({value->Find("id")->String(), value->Find("why")->String(), *value->Find("steps"),
-                         *value->Find("expect")});
+        cases.push_back(
+            {value->Find("id")->String(), value->Find("why")->String(), *value->Find("steps"), *value->Find("expect")});
     }
     return cases;
 }
@@ -75,16 +75,20 @@ TEST(GoldenCaseFile, EveryLineIsACase) {
     std::size_t lines = 0;
     for (std::string line; std::getline(file, line);) lines += line.empty() ? 0 : 1;
     EXPECT_EQ(lines, 115u);
-    EXPECT_EQ(LoadCases().size(), lines);
+    EXPECT_EQ(LoadCases("golden/engine-cases.jsonl").size(), lines);
 }
 
-INSTANTIATE_TEST_SUITE_P(EngineCases, GoldenCases, testing::ValuesIn(LoadCases()), [](const auto& info) {
+std::string CaseName(const testing::TestParamInfo<GoldenCase>& info) {
     std::string name = info.param.id;
     for (char& c : name) {
         if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
     }
     return name;
-});
+}
+
+INSTANTIATE_TEST_SUITE_P(EngineCases, GoldenCases, testing::ValuesIn(LoadCases("golden/engine-cases.jsonl")), CaseName);
+// The same form for the requests beside eval.
+INSTANTIATE_TEST_SUITE_P(ProtocolRuns, GoldenCases, testing::ValuesIn(LoadCases("cli/protocol-runs.jsonl")), CaseName);
 
 }  // namespace
 }  // namespace tessarondel
