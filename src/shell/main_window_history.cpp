@@ -24,10 +24,11 @@ SessionHistory MainWindowModel::SaveHistory() const {
 }
 
 void MainWindowModel::RestoreHistory(const SessionHistory& saved) {
+    const auto command = changes_.Begin();
     expressions_.Restore(saved.ExpressionRowCount, saved.Rows);
-    Notify(MainWindowChange::ExpressionListCleared);  // replaced whole
+    Mark(MainWindowChange::ExpressionListCleared);  // replaced whole
     results_.Restore(saved.ResultListCount, saved.Results);
-    Notify(MainWindowChange::ResultListCleared);
+    Mark(MainWindowChange::ResultListCleared);
     history_.Restore(saved.Inputs);
     RestoreVariables(saved.Variables);
     if (!saved.Answer) return;
