@@ -77,7 +77,7 @@ void MainWindow::Apply(MainWindowChange change) {
         case MainWindowChange::StayOnTop: DrawStayOnTop(); break;
         case MainWindowChange::WindowShown: DrawWindowShown(); break;
         case MainWindowChange::WindowPosition: DrawWindowPosition(); break;
-        case MainWindowChange::FocusInputArea: txtIn_->setFocus(Qt::OtherFocusReason); break;
+        case MainWindowChange::FocusInputArea: DrawFocus(); break;
         default: break;  // menus fill when they open
     }
 }
@@ -179,6 +179,16 @@ void MainWindow::DrawWindowShown() {
     } else {
         hide();
     }
+}
+
+// The focus also comes back here from the side windows' inserts and closes;
+// the keys only reach the Input Area once this window is the active one.
+void MainWindow::DrawFocus() {
+    if (!isActiveWindow()) {
+        raise();
+        activateWindow();
+    }
+    txtIn_->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::DrawWindowPosition() {

@@ -72,6 +72,7 @@ private:
     void DrawOptions();
     void DrawStayOnTop();
     void DrawWindowShown();
+    void DrawFocus();
     void DrawWindowPosition();
     void ReportInputSelection();
     void ShowPopup(QMenu* menu, QWidget* anchor);

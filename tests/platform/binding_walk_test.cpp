@@ -44,6 +44,7 @@ struct Windows : testing::BasicMainWindowHarness<DiceBox> {
         box.dice = &dice;
         model.Variables().SetListener([this](VariableWindowChange change) { variables.Apply(change); });
         manager.SetListener([this](FunctionManagerChange change) { managerWindow.Apply(change); });
+        documents.loaded.documents.push_back({u"twice", u"n", u"n*2", u"Doubles"});
         manager.Load();
     }
     int Roll(std::size_t count) { return std::uniform_int_distribution<int>(0, int(count) - 1)(dice); }
@@ -178,7 +179,7 @@ void Type(QWidget* box, const QString& text) {
 }
 
 const QString kInputs[] = {"-1", "1/0", "x=2", "y=x*-3", "2^40", "sin(", "  ", "255", "twice(-4)", "0.25"};
-const QString kFieldTexts[] = {"twice", "n", "n*2", "half", "a/2"};
+const QString kFieldTexts[] = {"thrice", "n", "n*3", "half", "a/2"};
 
 // One user command each, named for the report of a failed walk.
 struct Step {
@@ -250,6 +251,43 @@ TEST(WindowBinding, EveryWidgetShowsItsModelAfterEveryCommand) {
             ASSERT_TRUE(stale.isEmpty()) << "seed " << seed << ", after " << walk.join(", ").toStdString() << ": "
                                          << stale.toStdString();
         }
+    }
+}
+
+// An insert from a side window sends the keys back to the Input Area, so the
+// main window has to become the active one again.
+TEST(WindowBinding, InsertingFromASideWindowActivatesTheMainWindow) {
+    struct Insert {
+        const char* name;
+        QWidget& (*side)(Windows&);
+        void (*run)(Windows&);
+    };
+    const auto variables = [](Windows& w) -> QWidget& { return w.variables; };
+    const auto manager = [](Windows& w) -> QWidget& { return w.managerWindow; };
+    const Insert inserts[] = {
+        {"variable Insert", variables, [](Windows& w) { w.variables.findChild<QPushButton*>()->click(); }},
+        {"variable double click", variables,
+         [](Windows& w) {
+             QTreeView* list = w.variables.lvVar();
+             QApplication::processEvents();  // lays the rows out
+             const QPoint row = list->visualRect(list->model()->index(0, 0)).center();
+             QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row);
+             QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, row);
+         }},
+        {"manager Insert", manager, [](Windows& w) { w.managerWindow.Button(ManagerButton::Insert)->click(); }},
+    };
+    for (const Insert& insert : inserts) {
+        Windows w(1);
+        Type(w.window.txtIn(), "x=2");
+        QTest::keyClick(w.window.txtIn(), Qt::Key_Return);
+        QWidget& side = insert.side(w);
+        side.show();
+        QApplication::setActiveWindow(&side);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&side));
+        insert.run(w);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&w.window, 1000)) << insert.name;
+        EXPECT_EQ(QApplication::focusWidget(), w.window.txtIn()) << insert.name;
+        EXPECT_FALSE(w.window.txtIn()->text().isEmpty()) << insert.name;
     }
 }
 
