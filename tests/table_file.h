@@ -19,7 +19,8 @@ struct Row {
 
 inline void PrintTo(const Row& row, std::ostream* out) { *out << row.fields.front(); }
 
-// Fields may hold \t, \n, \r, \\ and \xHH; everything else is taken as written.
+// Fields may hold \t, \n, \r, \\ and \xHH; everything else is taken as written. A blank that ends
+// a field is written \x20, so that no editor strips it.
 inline std::string Unescape(const std::string& field) {
     std::string out;
     for (std::size_t i = 0; i < field.size(); ++i) {
