@@ -1,54 +1,29 @@
 // The keypad, the two insertion routines and the Quick Reference they write.
+#include <map>
+
 #include "shell/token_explanations.h"
 #include "shell_fakes.h"
+#include "table_file.h"
 
 namespace tessarondel::testing {
 namespace {
 
 using InputAreaSession = MainWindowTest;
 
-struct KeypadRow {
-    const char* name;
-    KeypadGroup group;
-    int index;
-    const char* inserted;
-    const char* explanation;  // second line of the Quick Reference
-};
-
-const KeypadRow kKeypadRows[] = {
-    {"SmallE", KeypadGroup::Number, 11, "e", "Scientific notation character."},
-    {"Comma", KeypadGroup::Operator, 0, ",",
-     "The comma operator is like the C language comma operator.It returns the last value of list, i.e. Nm."},
-    {"Times", KeypadGroup::Operator, 3, "*",
-     "The multiplication perator perform the standard arithmetical multiplication."},
-    {"NotEqual", KeypadGroup::Operator, 13, "<>",
-     "These operators compare their first argument to their second argument to test the validity of the specified "
-     "relationship."},
-    {"Div", KeypadGroup::Operator, 14, " div ", "Return the integer part of (N1/N2)."},
-    {"ModRunsOn", KeypadGroup::Operator, 15, " mod ",
-     "Return the modulus of (N1/N2).1. The addition operator performs the standard arithmetical addition. 2. The "
-     "unar plus always results to its argument and it is supplied only for symmetry."},
-    {"NoteMarkKeepsTrailingBlank", KeypadGroup::Operator, 20, "'",
-     "Single quotation marks, give the note-line of the expression. The part after it will be see as the note. "},
-    {"EqvIsAWord", KeypadGroup::Operator, 21, " eqv ", "This operator performs logical Equivalence on its arguments."},
-    {"Pi", KeypadGroup::Constant, 0, " Pi ", "System Constants."},
-};
-
-class KeypadButtons : public MainWindowTest, public ::testing::WithParamInterface<KeypadRow> {};
-
-TEST_P(KeypadButtons, InsertsItsTextAndExplainsIt) {
-    const KeypadRow& row = GetParam();
-    main.ClickKeypad(row.group, row.index);
-    EXPECT_EQ(InputText(), row.inserted);
-    std::string trimmed = row.inserted;
-    trimmed.erase(0, trimmed.find_first_not_of(' '));
-    trimmed.erase(trimmed.find_last_not_of(' ') + 1);
-    EXPECT_EQ(QuickReference(), "Insert Object:" + trimmed + "\r\n" + row.explanation);
-    EXPECT_TRUE(Announced(MainWindowChange::FocusInputArea));
+TEST_F(InputAreaSession, KeypadButtonsInsertTheirTextAndExplainIt) {
+    const std::map<std::string, KeypadGroup> groups = {
+        {"Number", KeypadGroup::Number}, {"Operator", KeypadGroup::Operator}, {"Constant", KeypadGroup::Constant}};
+    for (const testing_table::Row& row : testing_table::ReadTable("shell/keypad.tsv")) {
+        SCOPED_TRACE(row[0]);
+        main.ClickClearInput();
+        changes.clear();
+        main.ClickKeypad(groups.at(row[1]), row.Int(2));
+        EXPECT_EQ(InputText(), row[3]);
+        const std::size_t first = row[3].find_first_not_of(' '), last = row[3].find_last_not_of(' ');
+        EXPECT_EQ(QuickReference(), "Insert Object:" + row[3].substr(first, last - first + 1) + "\r\n" + row[4]);
+        EXPECT_TRUE(Announced(MainWindowChange::FocusInputArea));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Keypad, KeypadButtons, ::testing::ValuesIn(kKeypadRows),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(TokenExplanations, LookupIsExactAndCaseSensitive) {
     EXPECT_EQ(U8(TokenExplanation(u"e")), "Scientific notation character.");

@@ -2,50 +2,27 @@
 // main pop-up menu.
 #include "shell/panel_layout.h"
 #include "shell_fakes.h"
+#include "table_file.h"
 
 namespace tessarondel::testing {
 namespace {
 
-struct ArrangeRow {
-    const char* name;
-    bool listVisible;
-    bool inputVisible;
-    std::int32_t calculatorTop;
-    std::int32_t inputTop;
-    std::int32_t formHeight;
-    std::int32_t stateTop;
-    std::int32_t windowHeight;
-};
-
-// List 1000, calculator 2000, input 3000, foot 300 high.
-const ArrangeRow kArrangeRows[] = {
-    {"BothPanels", true, true, 1023, 3023, 6083, 6141, 6911},
-    {"ListOnly", true, false, 1023, 3023, 3083, 3141, 3911},
-    {"InputOnly", false, true, 8, 2008, 5068, 5126, 5896},
-    {"CalculatorStrip", false, false, 8, 2008, 2068, 2126, 2896},
-};
-
-class ArrangePanelsRows : public ::testing::TestWithParam<ArrangeRow> {};
-
-TEST_P(ArrangePanelsRows, StackPanelsWithTheFixedGaps) {
-    const ArrangeRow& row = GetParam();
-    PanelLayout layout;
-    layout.ExpressionList = {500, 1000, row.listVisible};
-    layout.Calculator = {0, 2000, true};
-    layout.InputPanel = {0, 3000, row.inputVisible};
-    layout.State = {0, 300, true};
-    ArrangePanels(layout);
-    EXPECT_EQ(layout.ExpressionList.Top, 8);
-    EXPECT_EQ(layout.Calculator.Top, row.calculatorTop);
-    EXPECT_EQ(layout.InputPanel.Top, row.inputTop);
-    EXPECT_EQ(layout.Form.Top, 8);
-    EXPECT_EQ(layout.Form.Height, row.formHeight);
-    EXPECT_EQ(layout.State.Top, row.stateTop);
-    EXPECT_EQ(layout.WindowHeight, row.windowHeight);
+// List 1000, calculator 2000, input 3000, foot 300 high; the list and the form start at 8.
+TEST(ArrangePanels, StacksPanelsWithTheFixedGaps) {
+    for (const testing_table::Row& row : testing_table::ReadTable("shell/panel-layouts.tsv")) {
+        SCOPED_TRACE(row[0]);
+        PanelLayout layout;
+        layout.ExpressionList = {500, 1000, row[1] == "yes"};
+        layout.Calculator = {0, 2000, true};
+        layout.InputPanel = {0, 3000, row[2] == "yes"};
+        layout.State = {0, 300, true};
+        ArrangePanels(layout);
+        const std::int32_t got[] = {layout.ExpressionList.Top, layout.Calculator.Top, layout.InputPanel.Top,
+                                    layout.Form.Top,           layout.Form.Height,    layout.State.Top,
+                                    layout.WindowHeight};
+        for (std::size_t i = 0; i < std::size(got); ++i) EXPECT_EQ(got[i], row.Int(3 + i)) << "column " << 3 + i;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Layouts, ArrangePanelsRows, ::testing::ValuesIn(kArrangeRows),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 using OptionsSession = MainWindowTest;
 
