@@ -115,50 +115,7 @@ TEST(UpdateCustomFunction, ABlankParameterListKeepsTheOldParameters) {
     EXPECT_EQ(k.Description, u"new");
 }
 
-TEST(UpdateCustomFunction, BeforeAnyAddTheTableHasNoSlots) {
-    EngineFixture engine;
-    EXPECT_THROW(RedefineCustomFunction(engine.state, u"j", u"", u"1", u""), RunFailure);
-    EXPECT_THROW(DropCustomFunction(engine.state, u"j"), RunFailure);
-    EXPECT_TRUE(engine.boxes.empty());
-    EXPECT_FALSE(engine.state.ErrorFlag);
-}
-
-// The table keeps its size: the last slot stays behind as a stale copy whose
-// body still takes part in the recursion check until the next add resizes.
-TEST(DropCustomFunction, AStaleLastSlotStillRefusesTheFunctionItCalled) {
-    EngineFixture engine;
-    engine.DefineAll({{u"j", u"", u"1"}, {u"k", u"x", u"zz(x)"}});
-    ASSERT_TRUE(DropCustomFunction(engine.state, u"K"));
-    EXPECT_EQ(engine.state.CustomFunctionNames, u"{j}");
-    ASSERT_EQ(engine.state.CustomFunctionTable.UpperBound(), 2);
-    EXPECT_EQ(engine.state.CustomFunctionTable[2].Name, u"k");
-    EXPECT_FALSE(DefineCustomFunction(engine.state, u"zz", u"x", u"x", u""));
-    EXPECT_EQ(engine.state.ErrorNumber, 10);
-    engine.DefineAll({{u"w", u"", u"3"}, {u"zz", u"x", u"x"}});
-}
-
-TEST(DropCustomFunction, WithNoNameLeftTheNextAddClearsEverything) {
-    EngineFixture engine;
-    engine.DefineAll({{u"k", u"x", u"zz(x)"}});
-    ASSERT_TRUE(DropCustomFunction(engine.state, u"k"));
-    EXPECT_FALSE(DropCustomFunction(engine.state, u"k"));
-    engine.DefineAll({{u"zz", u"x", u"x"}});
-    EXPECT_EQ(engine.state.CustomFunctionTable.UpperBound(), 1);
-}
-
-// Nothing looks for dependants: the caller stays, its call of the dropped
-// name is an unknown name, and its body keeps that name from coming back.
-TEST(DropCustomFunction, ACallerStaysAndKeepsTheDroppedNameTaken) {
-    EngineFixture engine;
-    engine.DefineAll({{u"j", u"x", u"x+1"}, {u"k", u"x", u"j(x)*2"}});
-    ASSERT_TRUE(DropCustomFunction(engine.state, u"j"));
-    EXPECT_EQ(engine.state.CustomFunctionNames, u"{k}");
-    EXPECT_EQ(engine.Evaluate(u"k(1)"), "Error");
-    EXPECT_EQ(engine.state.ErrorNumber, 0);
-    EXPECT_FALSE(DefineCustomFunction(engine.state, u"j", u"x", u"x", u""));
-    EXPECT_EQ(engine.state.ErrorNumber, 10);
-}
-
+// Drops, and the table before its first add, are runs of the JSON protocol: tests/data/cli/protocol-runs.jsonl.
 TEST(PrepareExpressionList, StripsNotesAndJoinsLinesButFailsOnNothingButNotes) {
     const struct {
         const char16_t* lines;

@@ -11,6 +11,9 @@ namespace {
 
 using testing_engine::Evaluate;
 
+// The last answer, auto-rounding and the list of a function without a bracket are runs of the JSON
+// protocol: tests/data/cli/protocol-runs.jsonl.
+
 // Rows: name, expression, the result text, the error number when the flag is set.
 class Evaluation : public testing::TestWithParam<testing_table::Row> {};
 
@@ -23,16 +26,6 @@ TEST_P(Evaluation, GivesTheResultText) {
 
 INSTANTIATE_TEST_SUITE_P(Rows, Evaluation, testing::ValuesIn(testing_table::ReadTable("engine/evaluations.tsv")),
                          testing_table::RowName);
-
-TEST(Driver, LastAnswerIsClampedAndZeroed) {
-    EngineState state = testing_engine::FreshEngine();
-    Evaluate(state, "0-inf");
-    EXPECT_EQ(state.LastAnswer, -1.79769313486231e308);
-    Evaluate(state, "eps");
-    EXPECT_EQ(state.LastAnswer, 0);
-    Evaluate(state, "'note");
-    EXPECT_EQ(state.LastAnswer, 0);
-}
 
 TEST(Driver, LeavesTheArgumentFoldedAndCutAtTheNote) {
     EngineState state = testing_engine::FreshEngine();
@@ -79,14 +72,6 @@ TEST(ErrorMessages, NumbersOutsideTheTableFailTheCaller) {
     EXPECT_FALSE(state.ErrorFlag);
 }
 
-TEST(CommaList, AFunctionWithoutBracketReachesTheBuiltinWithTheLastList) {
-    EngineState state = testing_engine::FreshEngine();
-    // No list has closed yet: the built-in's bound test fails on the list without slots.
-    EXPECT_EQ(Evaluate(state, "sin+1").error, 99);
-    // Now the list of the last evaluation stands, with one element.
-    EXPECT_EQ(Evaluate(state, "sin+1").error, 0);
-}
-
 std::string Nested(int depth) { return std::string(depth, '(') + "1" + std::string(depth, ')'); }
 
 // Deep nesting works within the bound, ends in the driver's handler beyond it, and beyond 32,767
@@ -108,21 +93,6 @@ TEST(CommaList, HoldsFifteenDigitTextsOfTheOutermostList) {
     EngineState state = testing_engine::FreshEngine();
     testing_engine::Evaluate(state, "1/3,(4,5),2");
     EXPECT_EQ(state.CommaList.Items(), (std::vector<std::u16string>{u".333333333333333", u"5", u"2"}));
-}
-
-TEST(AutoRounding, RoundsEveryOperatorResult) {
-    EngineState state = testing_engine::FreshEngine();
-    state.ApproximateBits = 2;
-    EXPECT_EQ(testing_engine::Evaluate(state, "1/3*3").result, "0.99");
-    EXPECT_EQ(testing_engine::Evaluate(state, "0.125,0").result, "0");
-    EXPECT_EQ(testing_engine::Evaluate(state, "0.125+0").result, "0.12");
-    state.ApproximateBits = 0;
-    EXPECT_EQ(testing_engine::Evaluate(state, "2.5+0").result, "2");
-    state.ApproximateBits = 23;
-    EXPECT_EQ(testing_engine::Evaluate(state, "1/4").result, "0.25");
-    state.ApproximateBits = 0;  // even after a division by zero
-    EXPECT_EQ(testing_engine::Evaluate(state, "x=2.5/0").error, 5);
-    EXPECT_EQ(testing_engine::Variables(state), (std::vector<std::pair<std::string, std::string>>{{"x", "2"}}));
 }
 
 // Texts the reader can hand over where an operator may stand.
