@@ -1,8 +1,8 @@
 // Saving the expression list as text.
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
+#include "customfunctions/temporary_folder.h"
 #include "shell_fakes.h"
 
 namespace tessarondel::testing {
@@ -10,22 +10,14 @@ namespace {
 
 class ExpressionExport : public MainWindowTest {
 protected:
-    ExpressionExport() {
-        folder = std::filesystem::temp_directory_path() /
-                 ("tessarondel-export-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directories(folder);
-    }
-    ~ExpressionExport() override { std::filesystem::remove_all(folder); }
-
     std::string SaveAs(const std::filesystem::path& file) {
         saveDialog.Answer = file.u16string();
         main.cmdlvOutput(3);
-        std::ifstream in(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+        return ReadBytes(file);
     }
 
-    std::filesystem::path folder;
+    const TemporaryFolder temporary;
+    const std::filesystem::path& folder = temporary.Path();
 };
 
 // An empty list gives an empty file; an old file is replaced.

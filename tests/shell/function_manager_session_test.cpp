@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "customfunctions/function_manager_model.h"
+#include "customfunctions/temporary_folder.h"
 #include "shell/function_manager_host.h"
 #include "shell_fakes.h"
 
@@ -12,16 +13,11 @@ namespace {
 class FunctionManagerSession : public MainWindowTest {
 protected:
     FunctionManagerSession() {
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directories(folder);
         WriteFunctionDocument(folder, {u"Hyp", u"a, b", u"s=a^2+b^2 ' squares\r\nsqrt(s)", u"Length"});
     }
-    ~FunctionManagerSession() override { std::filesystem::remove_all(folder); }
 
-    // One folder per test: ctest runs tests side by side.
-    std::filesystem::path folder =
-        std::filesystem::temp_directory_path() /
-        ("tessarondel-manager-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    const TemporaryFolder temporary;
+    const std::filesystem::path& folder = temporary.Path();
     FolderDocumentStore store{folder};
     ShellFunctionManagerHost host{main, box};
     FunctionManagerModel manager{engine, store, host};
