@@ -1,14 +1,15 @@
 // The entry procedure: the second-instance question, the settings, the
 // windows, and the event loop. Everything else is wired in DesktopApplication.
-#include <QApplication>
 #include <QNetworkProxyFactory>
 #include <QTimer>
 #include <exception>
 
 #include "customfunctions/cfd_document.h"
 #include "platform/desktop_application.h"
+#include "platform/guarded_application.h"
 #include "platform/qt_desktop.h"
 #include "platform/qt_text.h"
+#include "services/failure_report.h"
 #include "services/instance_channel.h"
 #include "services/instance_lock.h"
 #include "services/maker_addresses.h"
@@ -27,18 +28,18 @@ DesktopConfiguration Configuration() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
+    GuardedApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);  // the main window hides to the tray
     QtMessageBox box;
-    InstanceLock instance;
-    InstanceChannel channel;
-    const bool first = instance.TryAcquire();
-    if (!first && box.Show(SecondInstanceQuestion, u"Information", MessageButtons::YesNo, MessageIcon::Question) !=
-                      MessageAnswer::Yes) {
-        channel.AskToShow();  // the running instance brings its window back
-        return 0;
-    }
     try {
+        InstanceLock instance;
+        InstanceChannel channel;
+        const bool first = instance.TryAcquire();
+        if (!first && box.Show(SecondInstanceQuestion, u"Information", MessageButtons::YesNo,
+                               MessageIcon::Question) != MessageAnswer::Yes) {
+            channel.AskToShow();  // the running instance brings its window back
+            return 0;
+        }
         QNetworkProxyFactory::setUseSystemConfiguration(true);  // the "default connection" of the version check
         QtSettingsStore store;
         DesktopApplication desktop(store, Configuration());
@@ -47,9 +48,11 @@ int main(int argc, char* argv[]) {
         if (first) {
             QTimer::singleShot(0, &channel, [&] { channel.Listen([&desktop] { desktop.ShowMainWindow(); }); });
         }
+        application.ReportFailuresTo(&box);  // from now on a handler's failure ends in a box, not the program
         return QApplication::exec();
-    } catch (const std::exception&) {
-        box.Show(u"Unknown Error! ErrorNumber:0", u"Information", MessageButtons::Ok, MessageIcon::Information);
+    } catch (const std::exception& failure) {
+        box.Show(UnknownErrorText(DescribeFailure(failure)), u"Information", MessageButtons::Ok,
+                 MessageIcon::Information);
         return 1;
     }
 }

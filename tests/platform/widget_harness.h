@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <string>
 
+#include "platform/guarded_application.h"
 #include "platform/main_window.h"
 #include "shell/desktop_fakes.h"
 #include "shell/main_window_model.h"
@@ -14,14 +15,14 @@ namespace tessarondel::testing {
 
 // The widget application of the tests: offscreen, with settings and data
 // paths of its own, so nothing of the user's is read or written.
-inline QApplication& WidgetApplication() {
-    static QApplication* application = [] {
+inline GuardedApplication& WidgetApplication() {
+    static GuardedApplication* application = [] {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         QStandardPaths::setTestModeEnabled(true);
         static int argc = 1;
         static char name[] = "platform_tests";
         static char* argv[] = {name, nullptr};
-        return new QApplication(argc, argv);
+        return new GuardedApplication(argc, argv);
     }();
     return *application;
 }
