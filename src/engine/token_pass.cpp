@@ -173,6 +173,11 @@ std::u16string_view WithoutBlanks(std::u16string_view token, unsigned bits) {
 
 }  // namespace
 
+std::u16string_view StreamReplacement(std::u16string_view name) {
+    const std::u16string_view* replacement = Replacements.Find(name);
+    return replacement ? *replacement : std::u16string_view();
+}
+
 // A replacement sends the scan back to the first character. Tokens in front
 // of the replaced one end at a delimiter that the replacement does not touch,
 // so they read and check as before. The replacement text itself mostly passes

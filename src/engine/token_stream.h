@@ -21,4 +21,8 @@ void ReplacePercentSignsAndWordOperators(std::u16string& src, std::u16string& ro
 bool RunTokenPass(EngineState& state, std::u16string& src);
 void InsertSignZeros(std::u16string& src);
 
+// The stream text that a constant or an alias (lower case) is rewritten to;
+// the empty text for any other name.
+std::u16string_view StreamReplacement(std::u16string_view name);
+
 }  // namespace tessarondel

@@ -1,5 +1,6 @@
 #include "platform/help_window.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -90,7 +91,13 @@ QWidget* HelpWindow::BuildFindBar() {
 
 void HelpWindow::ShowManual(const std::filesystem::path& page) {
     const QUrl url = QUrl::fromLocalFile(QString::fromStdString(page.string()));
-    if (page_->source() != url) page_->setSource(url);
+    if (page_->source() != url) {
+        // The pages link their style sheet for web browsers; the text browser
+        // takes it as the document's default instead.
+        QFile css(QString::fromStdString((page.parent_path() / "manual.css").string()));
+        if (css.open(QIODevice::ReadOnly)) page_->document()->setDefaultStyleSheet(QString::fromUtf8(css.readAll()));
+        page_->setSource(url);
+    }
     show();
     raise();
     activateWindow();

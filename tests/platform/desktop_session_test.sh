@@ -85,6 +85,12 @@ case $case in
     wait_until_visible_count 1 "the first window did not come back"
     kill -0 "$first" || fail "the first instance is gone"
     ;;
+  help-key)
+    # Without help.chm, F1 opens the manual in the program's own window.
+    start_program
+    xdotool windowfocus --sync "$(main_window)" key F1
+    timeout 20 xdotool search --sync --onlyvisible --name '^Tessarondel Help$' >/dev/null || fail "F1 did not open Tessarondel Help"
+    ;;
   *) fail "unknown case $case" ;;
 esac
 echo PASS
