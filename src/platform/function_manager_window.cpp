@@ -15,6 +15,7 @@
 
 #include "platform/app_icon.h"
 #include "platform/qt_text.h"
+#include "platform/report_list.h"
 #include "platform/text_table_model.h"
 #include "platform/twips.h"
 #include "platform/widget_helpers.h"
@@ -48,13 +49,7 @@ FunctionManagerWindow::FunctionManagerWindow(FunctionManagerModel& model, QWidge
             return ToQString(column == 0 ? r.Name : r.Description);
         },
         this);
-    list_ = new QTreeView(this);
-    list_->setModel(rows_);
-    list_->setRootIsDecorated(false);
-    list_->setUniformRowHeights(true);
-    list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    list_->setAccessibleName(QStringLiteral("Custom Functions"));
+    list_ = MakeReportList(rows_, u"Custom Functions", u"", this);
     // Rows count from 1 in the model.
     connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& current) {
         model_.SelectRow(current.isValid() ? current.row() + 1 : 0);

@@ -20,6 +20,7 @@
 #include "platform/app_icon.h"
 #include "platform/main_window.h"
 #include "platform/qt_text.h"
+#include "platform/report_list.h"
 #include "platform/text_table_model.h"
 #include "platform/widget_helpers.h"
 #include "shell/keypad.h"
@@ -41,20 +42,6 @@ QStringList Headers(std::initializer_list<const char16_t*> captions) {
     return headers;
 }
 
-// A list that reads like the report-style lists of the design: rows, no tree.
-QTreeView* MakeReportList(QAbstractItemModel* rows, const char16_t* accessibleName, QWidget* parent) {
-    auto* list = new QTreeView(parent);
-    list->setModel(rows);
-    list->setRootIsDecorated(false);
-    list->setUniformRowHeights(true);
-    list->setAllColumnsShowFocus(true);
-    list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list->setAccessibleName(ToQString(accessibleName));
-    return list;
-}
-
 }  // namespace
 
 QWidget* MainWindow::BuildExpressionPanel() {
@@ -70,8 +57,7 @@ QWidget* MainWindow::BuildExpressionPanel() {
             return ToQString(column == 0 ? r.Id : column == 1 ? r.Record.Expression : r.Record.Result);
         },
         this);
-    lvOutput_ = MakeReportList(expressionRows_, u"Expression List", panel);
-    lvOutput_->setToolTip(ToQString(ExpressionList::kToolTip));
+    lvOutput_ = MakeReportList(expressionRows_, u"Expression List", ExpressionList::kToolTip, panel);
     lvOutput_->header()->resizeSection(0, 40);
     lvOutput_->header()->resizeSection(1, 220);
     connect(lvOutput_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

@@ -17,7 +17,7 @@ int TextTableModel::columnCount(const QModelIndex& parent) const {
 
 QVariant TextTableModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::AccessibleTextRole) return {};
+    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
     return cell_(index.row(), index.column());
 }
 

@@ -10,6 +10,7 @@
 
 #include "platform/app_icon.h"
 #include "platform/qt_text.h"
+#include "platform/report_list.h"
 #include "platform/text_table_model.h"
 #include "platform/twips.h"
 #include "shell/shell_captions.h"
@@ -28,14 +29,7 @@ VariableWindow::VariableWindow(VariableWindowModel& model, QWidget* parent) : QW
             return ToQString(column == 0 ? record.Name : record.Value);
         },
         this);
-    lvVar_ = new QTreeView(this);
-    lvVar_->setModel(rows_);
-    lvVar_->setRootIsDecorated(false);
-    lvVar_->setUniformRowHeights(true);
-    lvVar_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    lvVar_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    lvVar_->setAccessibleName(QStringLiteral("Variable List"));
-    lvVar_->setToolTip(ToQString(VariableWindowModel::kListToolTip));
+    lvVar_ = MakeReportList(rows_, u"Variable List", VariableWindowModel::kListToolTip, this);
     connect(lvVar_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& current) {
         model_.SelectRow(current.isValid() ? std::optional<std::size_t>(current.row()) : std::nullopt);
     });

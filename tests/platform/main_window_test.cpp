@@ -2,11 +2,14 @@
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTest>
 #include <QToolButton>
+#include <QToolTip>
+#include <QTreeView>
 
 #include "platform/text_table_model.h"
 #include "platform/widget_harness.h"
@@ -151,6 +154,26 @@ TEST(MainWindow, FrameCloseHidesToTheTrayOrMinimisesWithoutOne) {
     h.window.close();
     EXPECT_TRUE(h.window.isVisible());
     EXPECT_EQ(h.model.WindowShownState(), 1);
+}
+
+TEST(MainWindow, RowsShowTheListsToolTipAndACutOffCellItsWholeText) {
+    MainWindowHarness h;
+    h.window.show();
+    const QString longInput = QStringLiteral("1+").repeated(60) + QStringLiteral("1");
+    TypeAndEnter(h.window.txtIn(), QStringLiteral("2+2"));
+    TypeAndEnter(h.window.txtIn(), longInput);
+    const QString listTip = QStringLiteral("Double Click will copy the selected expression to Input Area");
+    const struct {
+        int row, column;
+        QString shown;
+    } hovers[] = {{0, 1, listTip}, {0, 2, listTip}, {1, 0, listTip}, {1, 1, longInput}};
+    QTreeView* list = h.window.lvOutput();
+    for (const auto& hover : hovers) {
+        const QPoint at = list->visualRect(list->model()->index(hover.row, hover.column)).center();
+        QHelpEvent event(QEvent::ToolTip, at, list->viewport()->mapToGlobal(at));
+        QApplication::sendEvent(list->viewport(), &event);
+        EXPECT_EQ(QToolTip::text().toStdString(), hover.shown.toStdString()) << hover.row << "," << hover.column;
+    }
 }
 
 }  // namespace
