@@ -1,6 +1,6 @@
 // Writes the manual's reference pages (functions, constants, errors) from the
 // tables that the program's catalogues, Quick Reference and error reporting
-// use, merged with the hand-written examples and advice of two TSV files. A
+// use (and the Quick Reference's own texts), merged with the hand-written examples and advice of two TSV files. A
 // table entry without its row, or a row without its entry, stops the build,
 // so the manual can't fall behind the program. Every example also goes to
 // examples.txt and its stated result to examples.expected, for a test that
@@ -23,6 +23,7 @@
 #include "engine/text_codec.h"
 #include "engine/token_stream.h"
 #include "shell/catalogue.h"
+#include "shell/token_explanations.h"
 
 namespace {
 
@@ -165,6 +166,19 @@ std::string ConstantsPage(PageWriter& writer) {
     return page + PageEnd;
 }
 
+std::string QuickReferencePage() {
+    std::string page = PageStart("The Quick Reference");
+    page +=
+        "<p>When the keypad or a menu puts an operator, a digit or a constant into the input line, the Quick "
+        "Reference pane below the keypad explains it with these words.</p>\n<table>\n<tr><th>Key</th>"
+        "<th>Quick Reference</th></tr>\n";
+    for (const auto& [token, explanation] : TokenExplanations()) {
+        page += "<tr><td><a name=\"qr-" + Html(token) + "\"></a><code>" + Html(token) + "</code></td><td>" +
+                Html(explanation) + "</td></tr>\n";
+    }
+    return page + "</table>\n" + PageEnd;
+}
+
 std::vector<int> ErrorNumbers() {
     std::vector<int> numbers;
     for (int number = 0; number <= UnknownError; ++number) {
@@ -217,6 +231,7 @@ void WritePages(const path& source, const path& output) {
     Write(output / "functions.html", FunctionsPage(writer));
     Write(output / "constants.html", ConstantsPage(writer));
     Write(output / "errors.html", ErrorsPage(advice, writer));
+    Write(output / "quick-reference.html", QuickReferencePage());
     ThrowOnUnusedRows(examples, "example");
     ThrowOnUnusedRows(advice, "advice");
     Write(output / "examples.txt", log.inputs.str());
@@ -243,6 +258,8 @@ int CheckPages(const path& output) {
     for (const std::u16string& name : BracedNames(ConstantList))
         wanted.emplace_back("constants.html", "const-" + Html(name));
     for (const int number : ErrorNumbers()) wanted.emplace_back("errors.html", "error-" + std::to_string(number));
+    for (const auto& [token, explanation] : TokenExplanations())
+        wanted.emplace_back("quick-reference.html", "qr-" + Html(token));
     int missing = 0;
     for (const auto& [page, anchor] : wanted) {
         if (ReadText(output / page).find("name=\"" + anchor + "\"") != std::string::npos) continue;

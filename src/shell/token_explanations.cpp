@@ -14,7 +14,7 @@ constexpr std::u16string_view kSystemConstant = u"System Constants.";
 
 // The "mod" text runs on into the one of "+", and the one of "'" ends in a
 // blank: both are what the user has always read.
-constexpr std::array<std::pair<std::u16string_view, std::u16string_view>, 40> kExplanations{{
+constexpr std::array<TokenExplanationEntry, 40> kExplanations{{
     {u"+",
      u"1. The addition operator performs the standard arithmetical addition. 2. The unar plus always results to its "
      u"argument and it is supplied only for symmetry."},
@@ -72,5 +72,7 @@ std::u16string_view TokenExplanation(std::u16string_view token) {
     }
     return {};
 }
+
+std::span<const TokenExplanationEntry> TokenExplanations() { return kExplanations; }
 
 }  // namespace tessarondel
