@@ -71,6 +71,9 @@ case $case in
     ;;
   second-launch)
     # The window hidden to the tray comes back when a second launch is answered No.
+    # The channel's socket file as a crashed run leaves it, for the first instance to take over.
+    python3 -c 'import socket, sys; socket.socket(socket.AF_UNIX).bind(sys.argv[1])' \
+      "$XDG_RUNTIME_DIR/$TESSARONDEL_APP_ID-$(id -u).socket"
     start_tray
     start_program
     python3 "$(dirname "$0")/x_desktop.py" close "$(main_window)"
