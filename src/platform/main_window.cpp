@@ -182,9 +182,10 @@ void MainWindow::DrawWindowShown() {
 }
 
 // The focus also comes back here from the side windows' inserts and closes;
-// the keys only reach the Input Area once this window is the active one.
+// the keys only reach the Input Area once this window is the active one. A
+// window hidden to the tray stays hidden.
 void MainWindow::DrawFocus() {
-    if (!isActiveWindow()) {
+    if (isVisible() && !isActiveWindow()) {
         raise();
         activateWindow();
     }

@@ -178,6 +178,11 @@ void Type(QWidget* box, const QString& text) {
     QTest::keyClicks(box, text);
 }
 
+void Enter(Windows& w, const QString& text) {
+    Type(w.window.txtIn(), text);
+    QTest::keyClick(w.window.txtIn(), Qt::Key_Return);
+}
+
 const QString kInputs[] = {"-1", "1/0", "x=2", "y=x*-3", "2^40", "sin(", "  ", "255", "twice(-4)", "0.25"};
 const QString kFieldTexts[] = {"thrice", "n", "n*3", "half", "a/2"};
 
@@ -187,11 +192,7 @@ struct Step {
     std::function<void(Windows&)> run;
 };
 const Step kSteps[] = {
-    {"evaluate",
-     [](Windows& w) {
-         Type(w.window.txtIn(), w.Pick(kInputs));
-         QTest::keyClick(w.window.txtIn(), Qt::Key_Return);
-     }},
+    {"evaluate", [](Windows& w) { Enter(w, w.Pick(kInputs)); }},
     {"base", [](Windows& w) { w.model.FocusBaseOption(w.Roll(4)); }},
     {"format negative box", [](Windows& w) { w.model.ClickFormatNeg(!w.model.Display().FormatNegChecked()); }},
     {"format negative label", [](Windows& w) { w.model.ClickFormatNegLabel(); }},
@@ -254,6 +255,19 @@ TEST(WindowBinding, EveryWidgetShowsItsModelAfterEveryCommand) {
     }
 }
 
+TEST(WindowBinding, AnErrorAfterANegativeHexResultHidesTheFormatNegativePair) {
+    Windows w(1);
+    w.model.FocusBaseOption(3);
+    w.model.ClickFormatNeg(true);
+    Enter(w, "-1");
+    ASSERT_EQ(w.window.txtLEDResult()->text(), QStringLiteral("$HFFFFFFFF"));
+    ASSERT_FALSE(w.window.findChild<QCheckBox*>()->isHidden());
+    Enter(w, "1/0");
+    EXPECT_TRUE(w.window.findChild<QCheckBox*>()->isHidden());
+    EXPECT_TRUE(WithText<QLabel>(w.window, ResultDisplay::kFormatNegCaption)->isHidden());
+    EXPECT_EQ(Stale(MainBindings(w)).toStdString(), "");
+}
+
 // An insert from a side window sends the keys back to the Input Area, so the
 // main window has to become the active one again.
 TEST(WindowBinding, InsertingFromASideWindowActivatesTheMainWindow) {
@@ -278,8 +292,7 @@ TEST(WindowBinding, InsertingFromASideWindowActivatesTheMainWindow) {
     };
     for (const Insert& insert : inserts) {
         Windows w(1);
-        Type(w.window.txtIn(), "x=2");
-        QTest::keyClick(w.window.txtIn(), Qt::Key_Return);
+        Enter(w, "x=2");
         QWidget& side = insert.side(w);
         side.show();
         QApplication::setActiveWindow(&side);
