@@ -10,7 +10,7 @@ packages=(
   libbenchmark-dev
   libedit-dev                        # line editing in tessarondel-cli
   clang libclang-rt-dev              # libFuzzer and the sanitizer runs
-  xvfb xdotool x11-utils             # the end-to-end test on a virtual display
+  xvfb xdotool x11-utils python3     # the end-to-end tests on a virtual display (python3: a stand-in tray)
   dbus-x11 at-spi2-core python3-pyatspi
   locales                            # a comma-decimal locale proves number texts ignore locales
   desktop-file-utils appstream man-db # the install checks: desktop entry, metainfo, manual pages

@@ -35,8 +35,8 @@ int main(int argc, char* argv[]) {
         InstanceLock instance;
         InstanceChannel channel;
         const bool first = instance.TryAcquire();
-        if (!first && box.Show(SecondInstanceQuestion, u"Information", MessageButtons::YesNo,
-                               MessageIcon::Question) != MessageAnswer::Yes) {
+        if (!first && box.Show(SecondInstanceQuestion, u"Information", MessageButtons::YesNo, MessageIcon::Question) !=
+                          MessageAnswer::Yes) {
             channel.AskToShow();  // the running instance brings its window back
             return 0;
         }
