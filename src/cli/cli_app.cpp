@@ -150,7 +150,7 @@ bool EvaluateAndPrint(EngineState& engine, const Options& options, const std::st
 // Defines the functions of the folder's documents, as the desktop program does at start.
 void LoadFunctions(EngineState& engine, const Options& options, std::ostream& err) {
     const std::filesystem::path folder =
-        options.functionFolder ? std::filesystem::path(*options.functionFolder) : ResolveFunctionFolder();
+        options.functionFolder ? std::filesystem::path(*options.functionFolder) : FindFunctionFolder();
     if (LoadFunctionFolder(engine, folder).failed) err << "tessarondel-cli: " << ToUtf8(LoadFailedMessage) << '\n';
 }
 

@@ -52,4 +52,7 @@ bool DeleteFunctionDocument(const std::filesystem::path& folder, std::u16string_
 // be created or written, "Custom Function" under the user's data directory.
 std::filesystem::path ResolveFunctionFolder();
 
+// The same folder, without creating it.
+std::filesystem::path FindFunctionFolder();
+
 }  // namespace tessarondel

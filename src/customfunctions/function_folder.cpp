@@ -55,13 +55,17 @@ void MakePath(std::string_view path) {
     if (path.back() != '/') CreateDirectory(work);
 }
 
-std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, const std::string& dataHome) {
+std::filesystem::path FindFunctionFolder(const std::string& programDirectory, const std::string& dataHome) {
     const std::string beside = FixPath(programDirectory + "/Custom Function");
-    MakePath(beside);
     if (IsWritableDirectory(beside)) return beside;
-    const std::string personal = FixPath(dataHome + "/Tessarondel/Custom Function");
-    MakePath(personal);
-    return personal;
+    return FixPath(dataHome + "/Tessarondel/Custom Function");
+}
+
+std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, const std::string& dataHome) {
+    MakePath(FixPath(programDirectory + "/Custom Function"));
+    const std::filesystem::path folder = FindFunctionFolder(programDirectory, dataHome);
+    MakePath(folder.string());
+    return folder;
 }
 
 namespace {
@@ -80,5 +84,7 @@ std::string UserDataHome() { return XdgHome("XDG_DATA_HOME", "/.local/share"); }
 std::string UserStateHome() { return XdgHome("XDG_STATE_HOME", "/.local/state"); }
 
 std::filesystem::path ResolveFunctionFolder() { return ChooseFunctionFolder(ProgramDirectory(), UserDataHome()); }
+
+std::filesystem::path FindFunctionFolder() { return FindFunctionFolder(ProgramDirectory(), UserDataHome()); }
 
 }  // namespace tessarondel

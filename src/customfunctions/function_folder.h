@@ -22,6 +22,11 @@ void MakePath(std::string_view path);
 // (a system-wide install can't write beside the program).
 std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, const std::string& dataHome);
 
+// The folder that ChooseFunctionFolder settles on, found without creating
+// anything, for a reader such as the command-line program: run by root from
+// /usr/bin, it must not leave a folder there.
+std::filesystem::path FindFunctionFolder(const std::string& programDirectory, const std::string& dataHome);
+
 // $XDG_DATA_HOME when it is an absolute path, else ~/.local/share.
 std::string UserDataHome();
 // $XDG_STATE_HOME when it is an absolute path, else ~/.local/state.

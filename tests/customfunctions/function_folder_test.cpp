@@ -125,9 +125,14 @@ TEST(MakePath, CreatesEveryLevelAndIgnoresWhatExists) {
 
 TEST(ChooseFunctionFolder, UsesTheFolderBesideTheProgramOrFallsBackToTheUserDataFolder) {
     TemporaryFolder program, blocked, data;
+    EXPECT_EQ(FindFunctionFolder(program.Path().string(), data.Path().string()),
+              data.Path() / "Tessarondel" / "Custom Function");
+    EXPECT_TRUE(fs::is_empty(program.Path()));
+    EXPECT_TRUE(fs::is_empty(data.Path()));
     EXPECT_EQ(ChooseFunctionFolder(program.Path().string(), data.Path().string()), program.Path() / "Custom Function");
     EXPECT_TRUE(fs::is_directory(program.Path() / "Custom Function"));
     EXPECT_TRUE(fs::is_empty(data.Path()));
+    EXPECT_EQ(FindFunctionFolder(program.Path().string(), data.Path().string()), program.Path() / "Custom Function");
     blocked.Write("Custom Function", "a file stands in the way");
     const fs::path chosen = ChooseFunctionFolder(blocked.Path().string() + "/", data.Path().string());
     EXPECT_EQ(chosen, data.Path() / "Tessarondel" / "Custom Function");
