@@ -30,6 +30,7 @@ DesktopConfiguration Configuration() {
 int main(int argc, char* argv[]) {
     GuardedApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);  // the main window hides to the tray
+    QApplication::setDesktopFileName(QStringLiteral(TESSARONDEL_APP_ID));
     QtMessageBox box;
     try {
         InstanceLock instance;
