@@ -14,6 +14,7 @@ packages=(
   dbus-x11 at-spi2-core python3-pyatspi
   locales                            # a comma-decimal locale proves number texts ignore locales
   desktop-file-utils appstream man-db # the install checks: desktop entry, metainfo, manual pages
+  dpkg-dev file                      # the .deb's dependency list (dpkg-shlibdeps)
 )
 
 ensure_test_locale() {
