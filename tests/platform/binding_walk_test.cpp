@@ -67,13 +67,23 @@ struct Shown {
     std::optional<QString> text = {};
 };
 
+long long Selected(std::optional<std::size_t> row) { return row ? static_cast<long long>(*row) : -1; }
+
+// A list as its row count and selected row.
+QString Rows(std::size_t count, long long selected) {
+    return QStringLiteral("%1 rows, row %2 selected").arg(count).arg(selected);
+}
+
 Shown Read(QWidget* widget) {
     Shown shown{.visible = !widget->isHidden(), .enabled = widget->isEnabled()};
     if (auto* button = qobject_cast<QAbstractButton*>(widget)) shown.checked = button->isChecked();
     if (auto* line = qobject_cast<QLineEdit*>(widget)) shown.text = line->text();
     if (auto* box = qobject_cast<QPlainTextEdit*>(widget)) shown.text = box->toPlainText();
     if (auto* combo = qobject_cast<QComboBox*>(widget)) shown.text = combo->currentText();
-    if (auto* view = qobject_cast<QAbstractItemView*>(widget)) shown.text = QString::number(view->model()->rowCount());
+    if (auto* view = qobject_cast<QAbstractItemView*>(widget)) {
+        const QModelIndexList selected = view->selectionModel()->selectedRows();
+        shown.text = Rows(view->model()->rowCount(), selected.isEmpty() ? -1 : selected.front().row());
+    }
     return shown;
 }
 
@@ -84,7 +94,6 @@ struct Binding {
 };
 
 QString Lines(std::u16string_view text) { return ToQString(text).replace(QStringLiteral("\r\n"), "\n"); }
-QString Count(std::size_t rows) { return QString::number(rows); }
 
 template <typename Widget>
 Widget* WithText(QWidget& root, std::u16string_view text) {
@@ -114,8 +123,10 @@ std::vector<Binding> MainBindings(Windows& w) {
          [=] { return Shown{.visible = m->Layout().ExpressionList.Visible}; }},
         {"pBoxInputPanel", root.findChild<QWidget*>("pBoxInputPanel"),
          [=] { return Shown{.visible = m->Layout().InputPanel.Visible}; }},
-        {"lvOutput", w.window.lvOutput(), [=] { return Shown{.text = Count(m->Expressions().Rows().size())}; }},
-        {"lvVar", w.variables.lvVar(), [=] { return Shown{.text = Count(m->Variables().Rows().size())}; }},
+        {"lvOutput", w.window.lvOutput(),
+         [=] { return Shown{.text = Rows(m->Expressions().Rows().size(), Selected(m->Expressions().SelectedRow()))}; }},
+        {"lvVar", w.variables.lvVar(),
+         [=] { return Shown{.text = Rows(m->Variables().Rows().size(), Selected(m->Variables().SelectedRow()))}; }},
     };
     for (int i = 0; i < 4; ++i) {
         rows.push_back({QStringLiteral("OptBaseNum(%1)").arg(i),
@@ -139,7 +150,8 @@ std::vector<Binding> ManagerBindings(Windows& w) {
     const FunctionManagerModel* m = &w.manager;
     FunctionManagerWindow& window = w.managerWindow;
     std::vector<Binding> rows = {
-        {"lvCustomFunction", window.lvCustomFunction(), [=] { return Shown{.text = Count(m->Rows().size())}; }},
+        {"lvCustomFunction", window.lvCustomFunction(),
+         [=] { return Shown{.text = Rows(m->Rows().size(), m->SelectedRow() - 1)}; }},
         {"manager details", window.Field(FunctionField::Name)->parentWidget(),
          [=] { return Shown{.visible = m->Height() == FunctionManagerModel::ExpandedHeight}; }},
     };
