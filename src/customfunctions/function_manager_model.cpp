@@ -192,7 +192,14 @@ void FunctionManagerModel::cmdLedBtn(int index) {
     changes_.Mark(FunctionManagerChange::Height);
 }
 
-void FunctionManagerModel::Resize(std::int32_t height) { cmdLedBtn(height <= CollapsedHeight ? 0 : 1); }
+void FunctionManagerModel::FitHeights(std::int32_t collapsed, std::int32_t expanded) {
+    const auto command = changes_.Begin();
+    collapsedHeight_ = std::max(kCollapsedHeight, collapsed);
+    expandedHeight_ = std::max(kExpandedHeight, expanded);
+    changes_.Mark(FunctionManagerChange::Height);
+}
+
+void FunctionManagerModel::Resize(std::int32_t height) { cmdLedBtn(height <= collapsedHeight_ ? 0 : 1); }
 
 void FunctionManagerModel::EnterEditing(std::int32_t mode) {
     editMode_ = mode;

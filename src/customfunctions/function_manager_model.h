@@ -78,8 +78,9 @@ class FunctionManagerModel {
 public:
     static constexpr const char16_t* kTitle = u"Custom Function Manager";
     static constexpr std::int32_t kWidth = 6375;
-    static constexpr std::int32_t CollapsedHeight = 2565;
-    static constexpr std::int32_t ExpandedHeight = 5505;
+    // The design's two heights; a window whose contents need more asks for more.
+    static constexpr std::int32_t kCollapsedHeight = 2565;
+    static constexpr std::int32_t kExpandedHeight = 5505;
     static constexpr const char16_t* kColumns[2] = {u"Function Name", u"Description"};
     static constexpr const char16_t* kFieldLabels[4] = {
         u"Function Name:", u"Parameter List (Splited by comma):",
@@ -100,6 +101,9 @@ public:
 
     // The window's load: reads every document and defines it in the engine.
     void Load();
+    // The heights the window's contents need at the desktop's font; the two
+    // heights become the larger of these and the design's.
+    void FitHeights(std::int32_t collapsed, std::int32_t expanded);
 
     // --- State ----------------------------------------------------------------
     ManagerState State() const;
@@ -112,7 +116,9 @@ public:
     const std::u16string& FieldText(FunctionField field) const { return fields_[Index(field)]; }
     bool FieldLocked(FunctionField field) const { return locked_[Index(field)]; }
     bool ButtonEnabled(ManagerButton button) const;
-    std::int32_t Height() const { return expanded_ ? ExpandedHeight : CollapsedHeight; }
+    std::int32_t CollapsedHeight() const { return collapsedHeight_; }
+    std::int32_t Height() const { return expanded_ ? expandedHeight_ : collapsedHeight_; }
+    bool DetailsShown() const { return expanded_; }
     // cmdLedBtn(index): 0 "Hide Details" while expanded, 1 "Show Details" while collapsed.
     bool DetailsButtonVisible(int index) const { return expanded_ == (index == 0); }
     // mnu_CFSub: "Add New...", a separator, then one entry per function.
@@ -131,6 +137,7 @@ public:
     void cmdInsert();
     void cmdClose();
     void cmdLedBtn(int index);
+    // A resize of the window snaps to one of the two heights.
     void Resize(std::int32_t height);
 
     // "Function:" name "(" parameters ")" CR LF "Description:" description.
@@ -178,6 +185,8 @@ private:
     bool deleteEnabled_ = true;
     bool okCancelEnabled_ = false;
     bool expanded_ = false;
+    std::int32_t collapsedHeight_ = kCollapsedHeight;
+    std::int32_t expandedHeight_ = kExpandedHeight;
     std::vector<FunctionMenuEntry> menu_;
 };
 

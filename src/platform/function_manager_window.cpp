@@ -12,6 +12,7 @@
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/app_icon.h"
 #include "platform/qt_text.h"
@@ -59,6 +60,8 @@ FunctionManagerWindow::FunctionManagerWindow(FunctionManagerModel& model, QWidge
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
+    // The window may be dragged below the details' room; the snap decides its height.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
     auto* top = new QHBoxLayout;
     top->addWidget(list_, 1);
     auto* side = new QVBoxLayout;
@@ -92,7 +95,25 @@ FunctionManagerWindow::FunctionManagerWindow(FunctionManagerModel& model, QWidge
     setFixedWidth(TwipScale::For(this).ToPixels(FunctionManagerModel::kWidth - FrameWidthTwips));
     DrawFields();
     DrawControls();
+    DrawHeight();  // the needs are measured with one details button on show and the details hidden
+    FitHeights(layout->contentsMargins().top() + layout->contentsMargins().bottom() + top->minimumSize().height(),
+               layout->spacing() + details_->minimumSizeHint().height());
     DrawHeight();
+}
+
+// Tells the model the heights the contents need, in whole pixels and never
+// below the design's, so that a height drawn in pixels reads back unchanged.
+void FunctionManagerWindow::FitHeights(int list, int details) {
+    const TwipScale scale = TwipScale::For(this);
+    const auto fit = [&scale](std::int32_t design, int needed) {
+        const int pixels = std::max(scale.ToPixels(design - FrameHeightTwips), needed);
+        return static_cast<std::int32_t>(scale.ToTwips(pixels)) + FrameHeightTwips;
+    };
+    const std::int32_t collapsed = fit(FunctionManagerModel::kCollapsedHeight, list);
+    const std::int32_t expanded =
+        fit(FunctionManagerModel::kExpandedHeight, scale.ToPixels(collapsed - FrameHeightTwips) + details);
+    model_.FitHeights(collapsed, expanded);
+    setMinimumHeight(scale.ToPixels(model_.CollapsedHeight() - FrameHeightTwips));
 }
 
 QWidget* FunctionManagerWindow::BuildDetails() {
@@ -172,9 +193,13 @@ void FunctionManagerWindow::DrawControls() {
 
 void FunctionManagerWindow::DrawHeight() {
     for (int i = 0; i < 2; ++i) detailsButtons_[i]->setVisible(model_.DetailsButtonVisible(i));
-    const bool expanded = model_.Height() == FunctionManagerModel::ExpandedHeight;
-    details_->setVisible(expanded);
-    setFixedHeight(TwipScale::For(this).ToPixels(model_.Height() - FrameHeightTwips));
+    details_->setVisible(model_.DetailsShown());
+    resize(width(), TwipScale::For(this).ToPixels(model_.Height() - FrameHeightTwips));
+}
+
+void FunctionManagerWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    model_.Resize(static_cast<std::int32_t>(TwipScale::For(this).ToTwips(height())) + FrameHeightTwips);
 }
 
 void FunctionManagerWindow::closeEvent(QCloseEvent* event) {

@@ -31,9 +31,11 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* BuildDetails();
+    void FitHeights(int list, int details);
     void DrawFields();
     void DrawControls();
     void DrawHeight();

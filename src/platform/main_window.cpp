@@ -15,6 +15,7 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QTreeView>
+#include <algorithm>
 
 #include "platform/app_icon.h"
 #include "platform/help_window.h"
@@ -139,11 +140,15 @@ void MainWindow::DrawQuickReferencePair() {
 }
 
 // Places the panels where the model's layout puts them, in twips through the
-// screen's DPI; the window's height follows, its width never changes.
+// screen's DPI; the window's height follows. The width is the design's unless
+// a larger desktop font needs more room for the panels' captions.
 void MainWindow::DrawLayout() {
     const TwipScale scale = TwipScale::For(this);
     const PanelLayout& layout = model_.Layout();
-    const int width = scale.ToPixels(layout.WindowWidth - 120);
+    int width = scale.ToPixels(layout.WindowWidth - FrameWidthTwips);
+    for (const QWidget* panel : {pBoxExpressionList_, pBoxCalculator_, pBoxInputPanel_, pBoxState_}) {
+        width = std::max(width, panel->minimumSizeHint().width());
+    }
     auto place = [&](QWidget* panel, const PanelGeometry& geometry) {
         panel->setGeometry(0, scale.ToPixels(geometry.Top), width, scale.ToPixels(geometry.Height));
         panel->setVisible(geometry.Visible);

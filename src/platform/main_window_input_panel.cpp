@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -20,6 +21,18 @@ namespace tessarondel {
 
 namespace {
 
+// The least room that shows the whole caption in the button's own font, with
+// half a character either side: the panel's rows and grids size from their
+// captions, so no desktop font or scale clips one.
+QToolButton* FitToCaption(QToolButton* button) {
+    const QFontMetrics metrics(button->font());
+    const int frame = button->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, button);
+    const int padding = metrics.averageCharWidth() / 2;
+    button->setMinimumSize(metrics.horizontalAdvance(button->text()) + 2 * (frame + padding),
+                           metrics.height() + 2 * frame);
+    return button;
+}
+
 // Keypad buttons don't take the focus on a click, so the input's selection
 // survives until the click replaces it; Tab still reaches them.
 QToolButton* KeypadButton(const QString& caption, int colour, QWidget* parent) {
@@ -27,6 +40,7 @@ QToolButton* KeypadButton(const QString& caption, int colour, QWidget* parent) {
     button->setText(caption);
     button->setFocusPolicy(Qt::TabFocus);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    FitToCaption(button);
     if (colour >= 0) {
         QPalette palette = button->palette();
         palette.setColor(QPalette::ButtonText, ClassicPaletteColour(colour));
@@ -76,6 +90,7 @@ QWidget* MainWindow::BuildKeypad() {
     for (const KeypadBlock& block : blocks) {
         auto* grid = new QGridLayout;
         grid->setSpacing(1);
+        for (int column = 0; column < block.Columns; ++column) grid->setColumnStretch(column, 1);
         const auto captions = KeypadCaptions(block.Group);
         for (int i = 0; i < static_cast<int>(captions.size()); ++i) {
             QToolButton* button =
@@ -96,14 +111,16 @@ QWidget* MainWindow::BuildMenuButtons() {
     mnuConstants_ = new QMenu(this);
     mnuBIFunctions_ = new QMenu(this);
     mnuResultList_ = new QMenu(this);
-    row->addWidget(MenuButton(ToQString(kMoreConstantsButton.Caption), kMoreConstantsButton.ToolTip, mnuConstants_, false));
-    row->addWidget(
-        MenuButton(ToQString(kBuiltInFunctionsButton.Caption), kBuiltInFunctionsButton.ToolTip, mnuBIFunctions_, false));
+    row->addWidget(FitToCaption(
+        MenuButton(ToQString(kMoreConstantsButton.Caption), kMoreConstantsButton.ToolTip, mnuConstants_, false)));
+    row->addWidget(FitToCaption(MenuButton(ToQString(kBuiltInFunctionsButton.Caption), kBuiltInFunctionsButton.ToolTip,
+                                           mnuBIFunctions_, false)));
     auto* custom = new QToolButton(strip);
     custom->setText(ToQString(kCustomFunctionsButton.Caption));
     connect(custom, &QToolButton::clicked, this, [this] { model_.ClickCustomFunctions(); });
-    row->addWidget(custom);
-    row->addWidget(MenuButton(ToQString(kResultListButton.Caption), kResultListButton.ToolTip, mnuResultList_, false));
+    row->addWidget(FitToCaption(custom));
+    row->addWidget(FitToCaption(
+        MenuButton(ToQString(kResultListButton.Caption), kResultListButton.ToolTip, mnuResultList_, false)));
     auto* frame = new QGroupBox(ToQString(kConstantsFrameCaption), strip);  // FrameConst
     auto* constants = new QHBoxLayout(frame);
     constants->setContentsMargins(2, 0, 2, 0);

@@ -178,6 +178,11 @@ TEST_F(FunctionManager, DetailsSnapToTwoHeights) {
     EXPECT_EQ(manager.Height(), 2565);
     manager.cmdNew();
     EXPECT_EQ(manager.Height(), 5505);
+    manager.FitHeights(3000, 5000);  // contents that need more than the collapsed height
+    manager.Resize(2990);
+    EXPECT_EQ(manager.Height(), 3000);
+    manager.Resize(3001);
+    EXPECT_EQ(manager.Height(), 5505);
 }
 
 // --- Saving a new function -------------------------------------------------------

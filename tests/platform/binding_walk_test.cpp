@@ -153,7 +153,7 @@ std::vector<Binding> ManagerBindings(Windows& w) {
         {"lvCustomFunction", window.lvCustomFunction(),
          [=] { return Shown{.text = Rows(m->Rows().size(), m->SelectedRow() - 1)}; }},
         {"manager details", window.Field(FunctionField::Name)->parentWidget(),
-         [=] { return Shown{.visible = m->Height() == FunctionManagerModel::ExpandedHeight}; }},
+         [=] { return Shown{.visible = m->DetailsShown()}; }},
     };
     for (ManagerButton button :
          {ManagerButton::New, ManagerButton::Edit, ManagerButton::Delete, ManagerButton::Ok, ManagerButton::Cancel}) {

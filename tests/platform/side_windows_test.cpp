@@ -11,19 +11,17 @@
 #include <QTimer>
 #include <QTreeView>
 
-#include "customfunctions/memory_document_store.h"
-#include "platform/function_manager_window.h"
 #include "platform/proxy_dialog.h"
 #include "platform/text_table_model.h"
 #include "platform/twips.h"
 #include "platform/variable_window.h"
 #include "platform/widget_harness.h"
-#include "shell/function_manager_host.h"
 
 namespace tessarondel {
 namespace {
 
 using testing::MainWindowHarness;
+using testing::ManagerHarness;
 
 QPushButton* PushButton(QWidget& root, const QString& caption) {
     for (auto* button : root.findChildren<QPushButton*>()) {
@@ -73,18 +71,6 @@ TEST(VariableWindow, CloseHidesAndUnchecksTheMainWindowsSwitch) {
     EXPECT_EQ(h.variables.minimumHeight(), TwipScale::For(&h.variables).ToPixels(4410 - FrameHeightTwips));
 }
 
-struct ManagerHarness : MainWindowHarness {
-    ManagerHarness() {
-        documents.loaded.documents.push_back({u"Hyp", u"a,b", u"sqrt(a^2+b^2)", u"Hypotenuse"});
-        manager.SetListener([this](FunctionManagerChange change) { window.Apply(change); });
-        manager.Load();
-    }
-    testing::MemoryDocumentStore documents;
-    ShellFunctionManagerHost host{model, box};
-    FunctionManagerModel manager{engine, documents, host};
-    FunctionManagerWindow window{manager};
-};
-
 TEST(FunctionManagerWindow, ListsTypesSavesAndInsertsFunctions) {
     ManagerHarness h;
     QAbstractItemModelTester tester(h.window.Rows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
@@ -126,6 +112,26 @@ TEST(FunctionManagerWindow, ListsTypesSavesAndInsertsFunctions) {
         EXPECT_EQ(accessible->text(QAccessible::Name), QString::fromLatin1(row.name));
     }
     EXPECT_EQ(h.window.lvCustomFunction()->accessibleName(), QStringLiteral("Custom Functions"));
+}
+
+// A resize snaps to the collapsed height, which shows the list's buttons, or
+// to the expanded one, which shows the details too.
+TEST(FunctionManagerWindow, ResizeSnapsToTheTwoHeights) {
+    ManagerHarness h;
+    h.window.show();
+    const int collapsed = h.window.height();
+    const struct {
+        int resizedTo;
+        bool expanded;
+    } rows[] = {{collapsed + 10, true}, {collapsed * 4, true}, {collapsed, false}, {collapsed - 10, false}};
+    for (const auto& row : rows) {
+        h.window.resize(h.window.width(), row.resizedTo);
+        QCoreApplication::processEvents();
+        SCOPED_TRACE(row.resizedTo);
+        EXPECT_EQ(h.window.Field(FunctionField::Expression)->isVisible(), row.expanded);
+        EXPECT_EQ(h.window.height(), TwipScale::For(&h.window).ToPixels(h.manager.Height() - FrameHeightTwips));
+        EXPECT_EQ(h.window.height() > collapsed, row.expanded);
+    }
 }
 
 struct ProxyHarness {

@@ -6,9 +6,12 @@
 #include <QWidget>
 #include <string>
 
+#include "customfunctions/memory_document_store.h"
+#include "platform/function_manager_window.h"
 #include "platform/guarded_application.h"
 #include "platform/main_window.h"
 #include "shell/desktop_fakes.h"
+#include "shell/function_manager_host.h"
 #include "shell/main_window_model.h"
 
 namespace tessarondel::testing {
@@ -57,6 +60,19 @@ struct BasicMainWindowHarness {
     MainWindow window{model};
 };
 using MainWindowHarness = BasicMainWindowHarness<>;
+
+// The main window with the Custom Function Manager over one document, "Hyp".
+struct ManagerHarness : MainWindowHarness {
+    ManagerHarness() {
+        documents.loaded.documents.push_back({u"Hyp", u"a,b", u"sqrt(a^2+b^2)", u"Hypotenuse"});
+        manager.SetListener([this](FunctionManagerChange change) { window.Apply(change); });
+        manager.Load();
+    }
+    MemoryDocumentStore documents;
+    ShellFunctionManagerHost host{model, box};
+    FunctionManagerModel manager{engine, documents, host};
+    FunctionManagerWindow window{manager};
+};
 
 // The first child whose accessible name is `name`.
 template <typename Widget = QWidget>
