@@ -15,6 +15,7 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QTreeView>
+#include <QWindow>
 #include <algorithm>
 
 #include "platform/app_icon.h"
@@ -168,12 +169,13 @@ void MainWindow::DrawOptions() {
     }
 }
 
+// The band changes on the native window, which asks the window manager for
+// the above state; setting the widget's flag would hide the window and create
+// its native window anew. A window not yet shown takes the flag when created.
 void MainWindow::DrawStayOnTop() {
     const bool onTop = model_.Option(OptionStayOnTop);
-    if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == onTop) return;
-    const bool visible = isVisible();
-    setWindowFlag(Qt::WindowStaysOnTopHint, onTop);  // hides a shown window; bring it back unmoved
-    if (visible) show();
+    overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, onTop));
+    if (QWindow* native = windowHandle()) native->setFlag(Qt::WindowStaysOnTopHint, onTop);
 }
 
 void MainWindow::DrawWindowShown() {

@@ -6,10 +6,12 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
 #include <QToolTip>
 #include <QTreeView>
+#include <QWindow>
 
 #include "platform/text_table_model.h"
 #include "platform/widget_harness.h"
@@ -47,6 +49,24 @@ TEST(MainWindow, EnterEvaluatesIntoDisplayAndAppendsARow) {
     EXPECT_EQ(rows->index(1, 1).data().toString(), QStringLiteral("1/0"));
     EXPECT_TRUE(rows->index(1, 2).data().toString().startsWith(QStringLiteral("Error:")));
     EXPECT_EQ(rows->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Result"));
+}
+
+// Stay on top changes the band of the shown window in place: never hidden,
+// the same native window, where it was.
+TEST(MainWindow, StayOnTopKeepsTheWindowInPlace) {
+    MainWindowHarness h;
+    h.window.show();
+    h.window.move(120, 80);
+    const WId native = h.window.winId();
+    QSignalSpy shownOrHidden(h.window.windowHandle(), &QWindow::visibleChanged);
+    for (bool onTop : {true, false}) {
+        h.model.ClickOption(OptionStayOnTop);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(h.window.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), onTop);
+        EXPECT_EQ(shownOrHidden.count(), 0);
+        EXPECT_EQ(h.window.winId(), native);
+        EXPECT_EQ(h.window.pos(), QPoint(120, 80));
+    }
 }
 
 TEST(MainWindow, ArrowsBrowseTheHistoryAndKeepTheTypedLine) {
