@@ -8,12 +8,17 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <random>
 #include <regex>
 #include <string>
+#include <vector>
 
 #include "numbers/ascii_text.h"
+#include "numbers/builtins.h"
+#include "numbers/comma_texts.h"
 #include "numbers/number_text.h"
+#include "numbers/numeric_helpers.h"
 #include "numbers/run_failure.h"
 
 namespace tessarondel {
@@ -154,9 +159,24 @@ std::string ReferenceText(double x, bool display) {
     return display ? body : " " + body;
 }
 
+// Both texts against printf; the 15-digit copy and a list's value, which skip the text, against the
+// display text read back.
 void ExpectBothTexts(double x) {
     ASSERT_EQ(Narrow(NumberText(x)), ReferenceText(x, false)) << std::hexfloat << x;
     ASSERT_EQ(Narrow(DisplayNumberText(x)), ReferenceText(x, true)) << std::hexfloat << x;
+    if (std::fabs(x) >= 1.797693134862315E+308) return;  // its text lies beyond the double range
+    const auto readBack = std::bit_cast<std::uint64_t>(TextToNumber(DisplayNumberText(x)));
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(FifteenDigitCopy(x)), readBack) << std::hexfloat << x;
+    CommaTexts list;
+    list.AssignValues(std::vector<double>{x});
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(list.Value(0)), readBack) << std::hexfloat << x;
+}
+
+TEST(FifteenDigitCopy, LargestDoublesRoundBeyondTheRange) {
+    const double largest = std::numeric_limits<double>::max();
+    EXPECT_THROW(TextToNumber(DisplayNumberText(largest)), OverflowFailure);
+    EXPECT_THROW(FifteenDigitCopy(largest), OverflowFailure);
+    EXPECT_THROW(FifteenDigitCopy(-largest), OverflowFailure);
 }
 
 // How the doubles are drawn.
@@ -198,9 +218,38 @@ double HalfwayCase(std::mt19937_64& random, int i) {
 // Every power of two, normal and subnormal, both signs.
 double PowerOfTwo(std::mt19937_64&, int i) { return std::ldexp(i % 2 == 0 ? 1.0 : -1.0, i / 2 % 2098 - 1074); }
 
+// Edges and values where a copy could part from its text.
+double Listed(std::mt19937_64&, int i) {
+    static const double values[] = {0.0,
+                                    -0.0,
+                                    PiValue,
+                                    3 * PiValue / 2,
+                                    0.1 + 0.2,
+                                    1E-15,
+                                    1E-16,
+                                    1E+15,
+                                    999999999999999.9,
+                                    -99.999999999999999,
+                                    9.88131291682493E-14,
+                                    123456789012345678.0,
+                                    -BigValue,
+                                    5E-324,
+                                    -1E-320,
+                                    2.2250738585072014E-308,
+                                    1.4999999999999999,
+                                    0.999999999999999944,
+                                    2.5e-7,
+                                    -1.7976931348623e308};
+    return values[i % std::size(values)];
+}
+
 const DoubleSource kDoubleSources[] = {
-    {"AnyBitPattern", AnyBitPattern}, {"DecimalLooking", DecimalLooking}, {"NearPowerOfTen", NearPowerOfTen},
-    {"HalfwayCase", HalfwayCase},     {"PowerOfTwo", PowerOfTwo},
+    {"Listed", Listed},
+    {"AnyBitPattern", AnyBitPattern},
+    {"DecimalLooking", DecimalLooking},
+    {"NearPowerOfTen", NearPowerOfTen},
+    {"HalfwayCase", HalfwayCase},
+    {"PowerOfTwo", PowerOfTwo},
 };
 
 class NumberTextAgainstPrintf : public testing::TestWithParam<DoubleSource> {};

@@ -29,44 +29,32 @@ ExpectedBox NewVersion(std::u16string shown, MessageAnswer answer) {
 
 MakerServers ServersAt(const QString& base) { return {base.toStdU16String(), u"https://web.example"}; }
 
-struct ServerRow {
-    const char* name;
-    QByteArray answer;
-    std::vector<ExpectedBox> boxes;
-    std::vector<std::u16string> opened;
-};
-
-class CheckAgainstServer : public ::testing::TestWithParam<ServerRow> {
-protected:
-    void SetUp() override { testing::Application(); }
-};
-
-TEST_P(CheckAgainstServer, ReportsWhatTheServerSaid) {
-    const auto& row = GetParam();
-    ScriptedHttpServer server([&](const QByteArray&) { return row.answer; });
-    ScriptedMessageBox boxes(row.boxes);
-    testing::FakeShellOpener opener;
-    InternetTransfer transfer;
-    CheckForUpdate(transfer, boxes, opener, ServersAt(server.BaseUrl()));
-    ASSERT_EQ(server.Heads().size(), 1);
-    EXPECT_TRUE(server.Heads().front().startsWith("GET /tq/version/ver.lmv HTTP/1.1"));
-    EXPECT_EQ(opener.Opened, row.opened);
+TEST(CheckForUpdate, ReportsWhatTheServerSaid) {
+    testing::Application();
+    const struct {
+        const char *status, *body;
+        std::vector<ExpectedBox> boxes;
+        std::vector<std::u16string> opened;
+    } rows[] = {{"200 OK", "1.2.6688 Build 1228", {LatestNotice}, {}},
+                {"200 OK",
+                 "{2.0 Build 1}",
+                 {NewVersion(u"2.0 Build 1", MessageAnswer::Yes)},
+                 {u"https://web.example/download.htm"}},
+                {"200 OK", "", {UnknownError}, {}},
+                {"404 Not Found", "Not here", {NewVersion(u"Not here", MessageAnswer::Cancel)}, {}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.body);
+        ScriptedHttpServer server(
+            [&](const QByteArray&) { return ScriptedHttpServer::Response(row.status, row.body); });
+        ScriptedMessageBox boxes(row.boxes);
+        testing::FakeShellOpener opener;
+        InternetTransfer transfer;
+        CheckForUpdate(transfer, boxes, opener, ServersAt(server.BaseUrl()));
+        ASSERT_EQ(server.Heads().size(), 1);
+        EXPECT_TRUE(server.Heads().front().startsWith("GET /tq/version/ver.lmv HTTP/1.1"));
+        EXPECT_EQ(opener.Opened, row.opened);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Version, CheckAgainstServer,
-    ::testing::Values(
-        ServerRow{"SameVersion", ScriptedHttpServer::Response("200 OK", "1.2.6688 Build 1228"), {LatestNotice}, {}},
-        ServerRow{"NewerAcceptedOpensDownloadPage",
-                  ScriptedHttpServer::Response("200 OK", "{2.0 Build 1}"),
-                  {NewVersion(u"2.0 Build 1", MessageAnswer::Yes)},
-                  {u"https://web.example/download.htm"}},
-        ServerRow{"EmptyBody", ScriptedHttpServer::Response("200 OK", ""), {UnknownError}, {}},
-        ServerRow{"NotFoundPageIsOffered",
-                  ScriptedHttpServer::Response("404 Not Found", "Not here"),
-                  {NewVersion(u"Not here", MessageAnswer::Cancel)},
-                  {}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(CheckForUpdate, SilentServerRunsIntoTheTimeOut) {
     testing::Application();
