@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds everything and runs the whole test suite:
-# the unit tests once more under AddressSanitizer and UBSan, a short fuzz run
-# when clang is present, then every test through CTest.
+# the unit tests once more under AddressSanitizer and UBSan, a short run of
+# each fuzz target when clang is present, then every test through CTest.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
@@ -19,7 +19,7 @@ extra+=("-DTESSARONDEL_SANITIZED_BUILD=$PWD/build-asan")
 if command -v clang++ >/dev/null; then
   CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESSARONDEL_FUZZ=ON \
     -DTESSARONDEL_BUILD_GUI=OFF -DTESSARONDEL_BUILD_TESTS=OFF -DTESSARONDEL_BUILD_BENCH=OFF >/dev/null
-  cmake --build build-fuzz -j "$jobs"
+  cmake --build build-fuzz -j "$jobs" --target fuzz_targets
   extra+=("-DTESSARONDEL_FUZZ_BUILD=$PWD/build-fuzz")
 fi
 

@@ -1,11 +1,11 @@
 #include "cli/json.h"
 
-#include "engine/text_codec.h"
-
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+
+#include "engine/text_codec.h"
 
 namespace tessarondel::json {
 
@@ -53,11 +53,23 @@ private:
         return ParseNumber();
     }
 
+    std::size_t SkipDigits() {
+        const std::size_t start = pos_;
+        while (pos_ < text_.size() && text_[pos_] >= '0' && text_[pos_] <= '9') ++pos_;
+        return pos_ - start;
+    }
+
+    // -?(0|[1-9][0-9]*)(.[0-9]+)?([eE][+-]?[0-9]+)? and nothing looser: "01",
+    // "1." and ".5" are no JSON numbers.
     std::optional<Value> ParseNumber() {
         const std::size_t start = pos_;
-        if (pos_ < text_.size() && text_[pos_] == '-') ++pos_;
-        while (pos_ < text_.size() && std::string_view("0123456789.eE+-").find(text_[pos_]) != std::string_view::npos)
-            ++pos_;
+        Consume("-");
+        if (!Consume("0") && SkipDigits() == 0) return std::nullopt;
+        if (Consume(".") && SkipDigits() == 0) return std::nullopt;
+        if (Consume("e") || Consume("E")) {
+            if (!Consume("+")) Consume("-");
+            if (SkipDigits() == 0) return std::nullopt;
+        }
         double x = 0;
         const char* first = text_.data() + start;
         const auto parsed = std::from_chars(first, text_.data() + pos_, x);
@@ -109,11 +121,37 @@ private:
         return code;
     }
 
+    static constexpr char32_t ReplacementCharacter = 0xFFFD;
+
+    // Copies the UTF-8 sequence that `lead` begins; false for malformed UTF-8:
+    // a stray or missing continuation byte, an overlong form, a surrogate or a
+    // code point above U+10FFFF.
+    bool CopyUtf8Sequence(char lead, std::string& out) {
+        const auto byte = static_cast<unsigned char>(lead);
+        if (byte < 0xC2 || byte > 0xF4) return false;
+        const std::size_t length = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
+        if (pos_ + length - 1 > text_.size()) return false;
+        char32_t code = byte & (0x7F >> length);
+        for (std::size_t i = 0; i + 1 < length; ++i) {
+            const auto next = static_cast<unsigned char>(text_[pos_ + i]);
+            if ((next & 0xC0) != 0x80) return false;
+            code = (code << 6) | (next & 0x3F);
+        }
+        constexpr char32_t Smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+        if (code < Smallest[length] || code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF)) return false;
+        out += lead;
+        out.append(text_.substr(pos_, length - 1));
+        pos_ += length - 1;
+        return true;
+    }
+
     std::optional<char32_t> ParseEscapedCodePoint() {
         auto high = ParseHex4();
         if (!high) return std::nullopt;
+        // A lone surrogate has no UTF-8 form; it reads as the replacement character.
+        if (*high >= 0xDC00 && *high <= 0xDFFF) return ReplacementCharacter;
         if (*high < 0xD800 || *high > 0xDBFF) return static_cast<char32_t>(*high);
-        if (!Consume("\\u")) return static_cast<char32_t>(*high);  // lone surrogate: written as such
+        if (!Consume("\\u")) return ReplacementCharacter;
         auto low = ParseHex4();
         if (!low || *low < 0xDC00 || *low > 0xDFFF) return std::nullopt;
         return static_cast<char32_t>(0x10000 + ((*high - 0xD800) << 10) + (*low - 0xDC00));
@@ -126,6 +164,10 @@ private:
             const char c = text_[pos_++];
             if (c == '"') return out;
             if (static_cast<unsigned char>(c) < 0x20) return std::nullopt;
+            if (static_cast<unsigned char>(c) >= 0x80) {
+                if (!CopyUtf8Sequence(c, out)) return std::nullopt;
+                continue;
+            }
             if (c != '\\') {
                 out += c;
                 continue;

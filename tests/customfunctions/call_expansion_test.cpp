@@ -45,6 +45,13 @@ TEST(ExpandCustomFunctionCalls, WorkedExample) {
     EXPECT_EQ(variables[0].Value, u"25");
 }
 
+// "{z{}" holds "{}", yet the empty token at the end of a text names no function.
+TEST(ExpandCustomFunctionCalls, TheEmptyTokenNamesNoFunction) {
+    EngineFixture engine;
+    engine.DefineAll({{u"z{", u"x", u"x*2"}});
+    EXPECT_EQ(ExpandCustomFunctionCalls(engine.state, u"(1)"), u"(1)");
+}
+
 TEST(ExpandCustomFunctionCalls, APositionBeyondSixteenBitsOverflows) {
     EngineFixture engine;
     engine.DefineAll(Functions);

@@ -97,17 +97,19 @@ bool BuildReplacement(EngineState& state, const std::u16string& token, std::u16s
 
 // The first token of `text` that names a custom function, read as the reader
 // reads, from the first character. The walk keeps its own cursor, so it
-// creates no variables; it stops where the reader stops, and the empty token
-// it ends on is tested as well. Error 3 of the reader is reported here.
+// creates no variables; it stops where the reader stops. Error 3 of the reader
+// is reported here. The empty token it ends on names nothing: a name that
+// begins with "}" or ends with "{" puts "{}" into the name list, and the empty
+// token would then expand the first bracket of the text for ever.
 std::optional<std::u16string_view> FindCustomName(EngineState& state, std::u16string_view text) {
     std::u16string_view rest = text;
     while (true) {
         rest = TrimBlanks(rest);
         const TokenShape shape = ShapeOfToken(rest);
         if (shape.invalid) state.ReportError(InvalidIdentifiers);
+        if (shape.length == 0) return std::nullopt;
         const std::u16string_view token = rest.substr(0, shape.length);
         if (IsCustomFunctionName(state, token)) return TrimBlanks(token);
-        if (shape.length == 0) return std::nullopt;
         rest.remove_prefix(shape.length);
     }
 }

@@ -9,8 +9,8 @@ namespace tessarondel::literal {
 
 // The rewriting passes exactly as they are told, with their restarts from the
 // first position, their whole-text replacements and their backward walks. The
-// engine does the same in linear time; the tests compare the two on generated
-// texts.
+// engine does the same in linear time; fuzz_literal_passes compares the two
+// on arbitrary texts.
 std::u16string FoldSource(std::u16string text);
 
 // The name lists read as texts: "{name}" occurs in the list.
