@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <ostream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
