@@ -94,6 +94,25 @@ case $case in
     xdotool windowfocus --sync "$(main_window)" key F1
     timeout 20 xdotool search --sync --onlyvisible --name '^Tessarondel Help$' >/dev/null || fail "F1 did not open Tessarondel Help"
     ;;
+  type-save-exit)
+    # Typing and Enter evaluate, Ctrl+S saves the list, Ctrl+Q ends with status 0 and leaves the
+    # settings readable by their owner only.
+    start_program
+    window=$(main_window)
+    xdotool windowfocus --sync "$window" type --delay 20 '2*(3+4)^2'
+    xdotool key Return ctrl+s
+    xdotool search --sync --name '^Save.As$' >/dev/null
+    xdotool type --delay 10 "$work/list.txt"
+    xdotool key Return
+    for _ in $(seq 100); do [ -s "$work/list.txt" ] && break; sleep 0.1; done
+    [ "$(cat "$work/list.txt")" = $'2*(3+4)^2\t98\r' ] || fail "the saved list: $(cat -A "$work/list.txt")"
+    xdotool windowfocus --sync "$window" key ctrl+q
+    status=0
+    wait "$program" || status=$?
+    [ "$status" -eq 0 ] || fail "Ctrl+Q ended the program with status $status"
+    [[ $(stat -c %a "$settings") == ?00 ]] || fail "settings mode $(stat -c %a "$settings")"
+    grep -qx 'EL=1' "$settings" && grep -qx 'Remoteport=80' "$settings" || fail "settings: $(cat "$settings")"
+    ;;
   *) fail "unknown case $case" ;;
 esac
 echo PASS
