@@ -2,15 +2,19 @@
 # Start time and memory of the desktop program under a virtual display:
 # the time from starting the process to the mapping of its main window, and
 # the resident memory after 2 s idle. Two cases: a first-ever start (empty
-# settings, empty function folder) and a start with 200 .cfd documents. Each
-# case is measured beside speedcrunch in the same run when it is installed.
-#   bench/measure_desktop.sh [build-dir] [runs]
+# settings, empty function folder) and a start with 200 .cfd documents.
+# Measured in the same run, one start of each in turn: a bare Qt Widgets
+# window with a few controls (bench/tools/bare_window.cpp), speedcrunch and
+# galculator where installed, and the program of a second build tree when
+# one is given (an earlier commit, to compare with).
+#   bench/measure_desktop.sh [build-dir] [runs] [earlier-build-dir]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=${1:-build}
 runs=${2:-10}
+earlier=${3:-}
 
-cmake --build "$build" --target tessarondel tessarondel-cli >/dev/null
+cmake --build "$build" --target tessarondel >/dev/null
 work=$(mktemp -d)
 xvfb_pid=""
 dbus_pid=""
@@ -22,14 +26,33 @@ cleanup() {
 trap cleanup EXIT
 
 c++ -O2 -std=c++20 -o "$work/map_timer" bench/tools/map_timer.cpp -lxcb
+# shellcheck disable=SC2046
+c++ -O2 -std=c++20 -fPIC -o "$work/bare_window" bench/tools/bare_window.cpp $(pkg-config --cflags --libs Qt6Widgets)
 
-# Two self-contained program folders, as cmake --install lays them out.
-cmake --install "$build" --prefix "$work/empty" >/dev/null
-cmake --install "$build" --prefix "$work/full" >/dev/null
-for i in $(seq -w 1 200); do
-  printf '%%%%Tessarondel Custom Function Document - 1.0\r\n[Function Name]\r\nf%s\r\n[Parameter List]\r\na, b\r\n[Expression List]\r\ns=a^2+b^2 '"'"' squares\r\nsqrt(s)+%s\r\n[Description]\r\nFunction number %s\r\n' \
-    "$i" "$i" "$i" >"$work/full/Custom Function/f$i.cfd"
-done
+# A program folder per case: the program with its function folder beside it.
+# place <name> <tree>
+place() {
+  mkdir -p "$work/$1/Custom Function"
+  cp "$2/src/platform/tessarondel" "$work/$1/tessarondel"
+}
+fill() {
+  for i in $(seq -w 1 200); do
+    printf '%%%%Tessarondel Custom Function Document - 1.0\r\n[Function Name]\r\nf%s\r\n[Parameter List]\r\na, b\r\n[Expression List]\r\ns=a^2+b^2 '"'"' squares\r\nsqrt(s)+%s\r\n[Description]\r\nFunction number %s\r\n' \
+      "$i" "$i" "$i" >"$work/$1/Custom Function/f$i.cfd"
+  done
+}
+cases=("tessarondel-empty Tessarondel $work/empty/tessarondel" "tessarondel-full Tessarondel $work/full/tessarondel")
+place empty "$build"
+place full "$build" && fill full
+if [ -n "$earlier" ]; then
+  place earlier-empty "$earlier"
+  place earlier-full "$earlier" && fill earlier-full
+  cases+=("earlier-empty Tessarondel $work/earlier-empty/tessarondel"
+    "earlier-full Tessarondel $work/earlier-full/tessarondel")
+fi
+cases+=("bare-qt Bare_Qt $work/bare_window")
+command -v speedcrunch >/dev/null && cases+=("speedcrunch SpeedCrunch $(command -v speedcrunch)")
+command -v galculator >/dev/null && cases+=("galculator galculator $(command -v galculator)")
 
 Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
 xvfb_pid=$!
@@ -39,31 +62,26 @@ export DISPLAY=":$(cat "$work/display")"
 eval "$(dbus-launch --sh-syntax)"
 dbus_pid=$DBUS_SESSION_BUS_PID
 
-# measure <label> <window title> <program>: prints median and range of both figures.
-measure() {
-  local label=$1 title=$2 program=$3 times=() rss=()
-  for run in $(seq "$runs"); do
-    local home="$work/home-$label-$run"
-    mkdir -p "$home/run" && chmod 700 "$home/run"
-    read -r ms kb < <(HOME="$home" XDG_CONFIG_HOME="$home/config" XDG_RUNTIME_DIR="$home/run" \
-      "$work/map_timer" "$title" 2 "$program")
-    times+=("$ms")
-    rss+=("$kb")
+# One start of each case per round, so a change of load meets all of them alike.
+declare -A times rss
+for run in $(seq "$runs"); do
+  for entry in "${cases[@]}"; do
+    read -r label title program <<<"$entry"
+    home="$work/home-$label-$run"
+    mkdir -p "$home/run" "$home/config" && chmod 700 "$home/run"
+    read -r ms kb < <(HOME="$home" XDG_CONFIG_HOME="$home/config" XDG_DATA_HOME="$home/data" \
+      XDG_RUNTIME_DIR="$home/run" "$work/map_timer" "${title//_/ }" 2 "$program")
+    times[$label]+="$ms "
+    rss[$label]+="$kb "
   done
-  local t r
-  t=$(printf '%s\n' "${times[@]}" | sort -n)
-  r=$(printf '%s\n' "${rss[@]}" | sort -n)
-  printf '%-28s start %6.1f ms (%s..%s)   memory %6.1f MB (%s..%s kB)\n' "$label" \
-    "$(echo "$t" | awk '{a[NR]=$1} END {print (NR%2) ? a[(NR+1)/2] : (a[NR/2]+a[NR/2+1])/2}')" \
-    "$(echo "$t" | head -1)" "$(echo "$t" | tail -1)" \
-    "$(echo "$r" | awk '{a[NR]=$1} END {m=(NR%2) ? a[(NR+1)/2] : (a[NR/2]+a[NR/2+1])/2; print m/1024}')" \
-    "$(echo "$r" | head -1)" "$(echo "$r" | tail -1)"
-}
+done
 
-echo "nproc $(nproc), load $(cut -d' ' -f1-3 /proc/loadavg), $runs runs each, median (min..max)"
-speedcrunch=$(command -v speedcrunch || true)
-[ -z "$speedcrunch" ] && echo "speedcrunch not installed: measuring Tessarondel alone"
-for case in empty full; do
-  measure "tessarondel-$case" Tessarondel "$work/$case/tessarondel"
-  [ -n "$speedcrunch" ] && measure "speedcrunch-$case" SpeedCrunch "$speedcrunch"
+median() { tr ' ' '\n' | sed '/^$/d' | sort -n | awk '{a[NR]=$1} END {print (NR%2) ? a[(NR+1)/2] : (a[NR/2]+a[NR/2+1])/2}'; }
+range() { tr ' ' '\n' | sed '/^$/d' | sort -n | sed -n '1p;$p' | paste -sd' ' | sed 's/ /../'; }
+echo "nproc $(nproc), load $(cut -d' ' -f1-3 /proc/loadavg), $runs rounds, median (min..max)"
+for entry in "${cases[@]}"; do
+  read -r label _ <<<"$entry"
+  printf '%-18s start %6.1f ms (%s)   memory %5.1f MiB (%s kB)\n' "$label" \
+    "$(median <<<"${times[$label]}")" "$(range <<<"${times[$label]}")" \
+    "$(median <<<"${rss[$label]}" | awk '{print $1/1024}')" "$(range <<<"${rss[$label]}")"
 done
