@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Start time and memory of the desktop program under a virtual display:
-# the time from starting the process to the mapping of its main window, and
-# the resident memory after 2 s idle. Two cases: a first-ever start (empty
+# the time from starting the process to the mapping of its main window, the
+# processor time its threads used until then (steadier on a loaded machine),
+# and the resident memory after 2 s idle. Two cases: a first-ever start (empty
 # settings, empty function folder) and a start with 200 .cfd documents.
 # Measured in the same run, one start of each in turn: a bare Qt Widgets
 # window with a few controls (bench/tools/bare_window.cpp), speedcrunch and
@@ -63,16 +64,17 @@ eval "$(dbus-launch --sh-syntax)"
 dbus_pid=$DBUS_SESSION_BUS_PID
 
 # One start of each case per round, so a change of load meets all of them alike.
-declare -A times rss
+declare -A times rss cpu
 for run in $(seq "$runs"); do
   for entry in "${cases[@]}"; do
     read -r label title program <<<"$entry"
     home="$work/home-$label-$run"
     mkdir -p "$home/run" "$home/config" && chmod 700 "$home/run"
-    read -r ms kb < <(HOME="$home" XDG_CONFIG_HOME="$home/config" XDG_DATA_HOME="$home/data" \
+    read -r ms kb cpums < <(HOME="$home" XDG_CONFIG_HOME="$home/config" XDG_DATA_HOME="$home/data" \
       XDG_RUNTIME_DIR="$home/run" "$work/map_timer" "${title//_/ }" 2 "$program")
     times[$label]+="$ms "
     rss[$label]+="$kb "
+    cpu[$label]+="$cpums "
   done
 done
 
@@ -81,7 +83,8 @@ range() { tr ' ' '\n' | sed '/^$/d' | sort -n | sed -n '1p;$p' | paste -sd' ' | 
 echo "nproc $(nproc), load $(cut -d' ' -f1-3 /proc/loadavg), $runs rounds, median (min..max)"
 for entry in "${cases[@]}"; do
   read -r label _ <<<"$entry"
-  printf '%-18s start %6.1f ms (%s)   memory %5.1f MiB (%s kB)\n' "$label" \
+  printf '%-18s start %6.1f ms (%s)   processor %5.1f ms (%s)   memory %5.1f MiB (%s kB)\n' "$label" \
     "$(median <<<"${times[$label]}")" "$(range <<<"${times[$label]}")" \
+    "$(median <<<"${cpu[$label]}")" "$(range <<<"${cpu[$label]}")" \
     "$(median <<<"${rss[$label]}" | awk '{print $1/1024}')" "$(range <<<"${rss[$label]}")"
 done
