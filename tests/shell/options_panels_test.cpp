@@ -98,12 +98,7 @@ TEST_F(OptionsSession, MenuCommandsThatOpenOtherWindowsAreAnnounced) {
                                      MainWindowRequest::CheckForUpdate, MainWindowRequest::Exit}));
 }
 
-TEST_F(OptionsSession, HelpOpensTheFileBesideTheProgram) {
-    main.ClickHelp();
-    ASSERT_EQ(opener.Opened.size(), 1u);
-    EXPECT_EQ(U8(opener.Opened[0]), TESSARONDEL_TEST_DATA "/shell/program/help.chm");
-}
-
+// Help itself: help_and_links_test.cpp.
 TEST_F(OptionsSession, MissingReadmeAndChangesAreReported) {
     box.ExpectNotice(u"Can not find the Readme file " + ToUtf16(TESSARONDEL_TEST_DATA "/shell/program/ReadMe.txt"),
                      u"Information");
