@@ -2,8 +2,9 @@
 # Start time and memory of the desktop program under a virtual display:
 # the time from starting the process to the mapping of its main window, the
 # processor time its threads used until then (steadier on a loaded machine),
-# and the resident memory after 2 s idle. Two cases: a first-ever start (empty
-# settings, empty function folder) and a start with 200 .cfd documents.
+# and the resident memory after 2 s idle. Three cases: a first-ever start
+# (empty settings, empty function folder), a start with 200 .cfd documents,
+# and a start that restores a kept session of 1,000 rows (KeepHistory=1).
 # Measured in the same run, one start of each in turn: a bare Qt Widgets
 # window with a few controls (bench/tools/bare_window.cpp), speedcrunch and
 # galculator where installed, and the program of a second build tree when
@@ -42,7 +43,21 @@ fill() {
       "$i" "$i" "$i" >"$work/$1/Custom Function/f$i.cfd"
   done
 }
-cases=("tessarondel-empty Tessarondel $work/empty/tessarondel" "tessarondel-full Tessarondel $work/full/tessarondel")
+# A home whose settings keep the session and whose kept session has 1,000
+# rows, Result List items and inputs; a case's fourth word names such a home.
+mkdir -p "$work/kept/config/Tessarondel" "$work/kept/.local/state/Tessarondel"
+printf '[Option]\nKeepHistory=1\n' >"$work/kept/config/Tessarondel/Tessarondel.ini"
+awk 'BEGIN {
+  print "Tessarondel history 1"
+  for (i = 1; i <= 1000; i++) printf "Row\t%d\tx=x+sqrt(2)*sin(%d)\t%.15g\n", i, i, i * 1.1
+  for (i = 1; i <= 1000; i++) printf "Result\t%d\t%.15g\n", i, i * 1.1
+  for (i = 1; i <= 1000; i++) printf "Input\tx=x+sqrt(2)*sin(%d)\n", i
+  print "Variable\tx\t1100\t1100"
+  print "Answer\t1100\t1100"
+  print "End"
+}' >"$work/kept/.local/state/Tessarondel/history"
+cases=("tessarondel-empty Tessarondel $work/empty/tessarondel" "tessarondel-full Tessarondel $work/full/tessarondel"
+  "tessarondel-kept Tessarondel $work/empty/tessarondel $work/kept")
 place empty "$build"
 place full "$build" && fill full
 if [ -n "$earlier" ]; then
@@ -55,9 +70,10 @@ cases+=("bare-qt Bare_Qt $work/bare_window")
 command -v speedcrunch >/dev/null && cases+=("speedcrunch SpeedCrunch $(command -v speedcrunch)")
 command -v galculator >/dev/null && cases+=("galculator galculator $(command -v galculator)")
 
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+# -noreset: a server that resets when its last client leaves refuses the next start for a moment.
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>/dev/null &
 xvfb_pid=$!
-for _ in $(seq 100); do [ -s "$work/display" ] && break; sleep 0.05; done
+for _ in $(seq 400); do [ -s "$work/display" ] && break; sleep 0.05; done
 export DISPLAY=":$(cat "$work/display")"
 # A session bus, as a desktop has one; without it each start would launch its own.
 eval "$(dbus-launch --sh-syntax)"
@@ -67,9 +83,10 @@ dbus_pid=$DBUS_SESSION_BUS_PID
 declare -A times rss cpu
 for run in $(seq "$runs"); do
   for entry in "${cases[@]}"; do
-    read -r label title program <<<"$entry"
+    read -r label title program seed <<<"$entry"
     home="$work/home-$label-$run"
     mkdir -p "$home/run" "$home/config" && chmod 700 "$home/run"
+    [ -n "$seed" ] && cp -a "$seed/." "$home/"
     read -r ms kb cpums < <(HOME="$home" XDG_CONFIG_HOME="$home/config" XDG_DATA_HOME="$home/data" \
       XDG_RUNTIME_DIR="$home/run" "$work/map_timer" "${title//_/ }" 2 "$program")
     times[$label]+="$ms "

@@ -67,5 +67,29 @@ void BM_EvaluateInHexAfterEarlierEvaluations(benchmark::State& state) {
 }
 BENCHMARK(BM_EvaluateInHexAfterEarlierEvaluations)->Arg(0)->Arg(100000)->Iterations(20000);
 
+// The start-up cost of a kept session: reading the file's text of 1,000 rows,
+// Result List items and inputs and putting it back into a freshly loaded window.
+void BM_RestoreKeptSession(benchmark::State& state) {
+    Session earlier;
+    for (int i = 0; i < 1000; ++i) earlier.Evaluate(u"x=x+sqrt(2)*sin(x)");
+    const std::string text = FormatSessionHistory(earlier.main.SaveHistory());
+    for (auto _ : state) {
+        Session next;
+        next.main.RestoreHistory(*ParseSessionHistory(text));
+        benchmark::DoNotOptimize(next.main.Expressions().Rows().size());
+    }
+    state.counters["bytes"] = static_cast<double>(text.size());
+}
+BENCHMARK(BM_RestoreKeptSession)->Unit(benchmark::kMillisecond);
+
+// The same fresh window without a kept session, for comparison.
+void BM_LoadWithoutKeptSession(benchmark::State& state) {
+    for (auto _ : state) {
+        Session next;
+        benchmark::DoNotOptimize(next.main.Expressions().Rows().size());
+    }
+}
+BENCHMARK(BM_LoadWithoutKeptSession)->Unit(benchmark::kMillisecond);
+
 }  // namespace
 }  // namespace tessarondel

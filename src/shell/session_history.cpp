@@ -13,28 +13,19 @@ namespace {
 constexpr std::string_view kHeader = "Tessarondel history 1";
 constexpr std::string_view kEnd = "End";
 
+// A backslash and a code stand in a field for each of these characters.
+constexpr std::string_view kEscapedChars{"\\\t\n\r\0", 5};
+constexpr std::string_view kEscapeCodes = "\\tnr0";
+
 std::string Escaped(std::u16string_view text) {
     std::string out;
     for (const char c : ToUtf8(text)) {
-        switch (c) {
-            case '\\':
-                out += "\\\\";
-                break;
-            case '\t':
-                out += "\\t";
-                break;
-            case '\n':
-                out += "\\n";
-                break;
-            case '\r':
-                out += "\\r";
-                break;
-            case '\0':
-                out += "\\0";
-                break;
-            default:
-                out += c;
-                break;
+        const std::size_t at = kEscapedChars.find(c);
+        if (at == std::string_view::npos) {
+            out += c;
+        } else {
+            out += '\\';
+            out += kEscapeCodes[at];
         }
     }
     return out;
@@ -94,11 +85,9 @@ public:
 
 private:
     static bool Unescape(char code, std::string& field) {
-        constexpr std::string_view codes = "\\tnr0";
-        constexpr std::string_view chars{"\\\t\n\r\0", 5};
-        const std::size_t at = codes.find(code);
+        const std::size_t at = kEscapeCodes.find(code);
         if (at == std::string_view::npos) return false;
-        field += chars[at];
+        field += kEscapedChars[at];
         return true;
     }
 
@@ -118,7 +107,7 @@ bool ParseValue(const std::string& text, double& value) {
 // The next number of a list that counts one by one.
 bool ParseNextNumber(const std::string& text, std::int32_t& count, bool first) {
     std::int32_t number = 0;
-    if (!ParseWhole(text, number) || (!first && number != count + 1)) return false;
+    if (!ParseWhole(text, number) || (!first && number - 1 != count)) return false;
     count = number;
     return true;
 }
