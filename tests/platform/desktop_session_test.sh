@@ -62,7 +62,42 @@ wait_until_visible_count() {
   fail "$2"
 }
 
+# run_session END KEYS...: starts the program, types each argument (key:NAMES
+# presses keys) and ends it with END, ctrl+q or a signal's name, and status 0.
+run_session() {
+  local end=$1 keys
+  shift
+  start_program
+  xdotool windowfocus --sync "$(main_window)"
+  for keys in "$@"; do
+    case $keys in
+      key:*) xdotool key --delay 50 ${keys#key:} ;;
+      *) xdotool type --delay 20 "$keys" ;;
+    esac
+  done
+  sleep 0.5
+  if [ "$end" = ctrl+q ]; then xdotool key ctrl+q; else kill -s "$end" "$program"; fi
+  local status=0
+  wait "$program" || status=$?
+  [ "$status" -eq 0 ] || fail "the session ended with status $status"
+}
+
 case $case in
+  keep-history)
+    # Off, nothing is written under the state folder. With KeepHistory=1 the rows, the variable and
+    # the inputs outlive the run: after a restart ended by SIGTERM, Up recalls a+1, a is still 42 and
+    # the new row is number 3.
+    export XDG_STATE_HOME="$work/state"
+    kept="$XDG_STATE_HOME/Tessarondel/history"
+    run_session ctrl+q "1+1" key:Return
+    [ ! -e "$XDG_STATE_HOME/Tessarondel" ] || fail "written under $XDG_STATE_HOME/Tessarondel with the option off"
+    printf '[Option]\nKeepHistory=1\n' >"$settings"
+    run_session ctrl+q "a=6*7" key:Return "a+1" key:Return
+    [ "$(stat -c %a "$kept")" = 600 ] || fail "kept file mode $(stat -c %a "$kept")"
+    run_session TERM key:Up key:Return
+    expected=$'Row\t1\ta=6*7\t42\nRow\t2\ta+1\t43\nRow\t3\ta+1\t43\nVariable\ta\t42\t42'
+    [ "$(grep -E '^(Row|Variable)' "$kept")" = "$expected" ] || fail "kept session: $(cat "$kept")"
+    ;;
   signals)
     for signal in TERM HUP INT; do
       rm -f "$settings"
