@@ -267,19 +267,6 @@ TEST(WindowBinding, EveryWidgetShowsItsModelAfterEveryCommand) {
     }
 }
 
-TEST(WindowBinding, AnErrorAfterANegativeHexResultHidesTheFormatNegativePair) {
-    Windows w(1);
-    w.model.FocusBaseOption(3);
-    w.model.ClickFormatNeg(true);
-    Enter(w, "-1");
-    ASSERT_EQ(w.window.txtLEDResult()->text(), QStringLiteral("$HFFFFFFFF"));
-    ASSERT_FALSE(w.window.findChild<QCheckBox*>()->isHidden());
-    Enter(w, "1/0");
-    EXPECT_TRUE(w.window.findChild<QCheckBox*>()->isHidden());
-    EXPECT_TRUE(WithText<QLabel>(w.window, ResultDisplay::kFormatNegCaption)->isHidden());
-    EXPECT_EQ(Stale(MainBindings(w)).toStdString(), "");
-}
-
 // An insert from a side window sends the keys back to the Input Area, so the
 // main window has to become the active one again.
 TEST(WindowBinding, InsertingFromASideWindowActivatesTheMainWindow) {

@@ -5,7 +5,6 @@
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -40,6 +39,9 @@ TEST(MainWindow, EnterEvaluatesIntoDisplayAndAppendsARow) {
     TypeAndEnter(h.window.txtIn(), QStringLiteral("2*(3+4)^2"));
     EXPECT_EQ(h.window.txtLEDResult()->text(), QStringLiteral("98"));
     EXPECT_TRUE(h.window.txtIn()->text().isEmpty());
+    QTest::mouseDClick(h.window.txtLEDResult(), Qt::LeftButton);
+    EXPECT_EQ(h.window.txtIn()->text(), QStringLiteral("(98)"));
+    h.window.txtIn()->clear();
     TypeAndEnter(h.window.txtIn(), QStringLiteral(" 1/0 "));
     QAbstractItemModel* rows = h.window.ExpressionRows();
     ASSERT_EQ(rows->rowCount(), 2);
@@ -49,6 +51,17 @@ TEST(MainWindow, EnterEvaluatesIntoDisplayAndAppendsARow) {
     EXPECT_EQ(rows->index(1, 1).data().toString(), QStringLiteral("1/0"));
     EXPECT_TRUE(rows->index(1, 2).data().toString().startsWith(QStringLiteral("Error:")));
     EXPECT_EQ(rows->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Result"));
+}
+
+// The Input Area shows the model's selection, down to a single character.
+TEST(MainWindow, InputAreaShowsTheSelectionOfItsModel) {
+    MainWindowHarness h;
+    for (std::size_t length : {0, 1, 2}) {
+        h.model.EditInput(u"abc", 1, length);
+        h.window.Apply(MainWindowChange::InputArea);
+        EXPECT_EQ(h.window.txtIn()->selectedText(), QStringLiteral("abc").mid(1, int(length))) << length;
+        EXPECT_EQ(h.window.txtIn()->cursorPosition(), 1 + int(length)) << length;
+    }
 }
 
 // Stay on top changes the band of the shown window in place: never hidden,
@@ -122,21 +135,6 @@ TEST(MainWindow, ControlsCarryTheirAccessibleNames) {
     EXPECT_EQ(FindByAccessibleName(h.window, QStringLiteral("Auto Round")), h.window.findChild<QComboBox*>());
 }
 
-TEST(MainWindow, HexOptionRewritesTheDisplayAndDoubleClickInsertsIt) {
-    MainWindowHarness h;
-    TypeAndEnter(h.window.txtIn(), QStringLiteral("255"));
-    QRadioButton* hex = nullptr;
-    for (auto* radio : h.window.findChildren<QRadioButton*>()) {
-        if (radio->text() == QStringLiteral("HEXadecimal")) hex = radio;
-    }
-    ASSERT_NE(hex, nullptr);
-    QTest::mouseClick(hex, Qt::LeftButton);
-    EXPECT_EQ(h.window.txtLEDResult()->text(), QStringLiteral("$HFF"));
-    QTest::mouseDClick(h.window.txtLEDResult(), Qt::LeftButton);
-    EXPECT_EQ(h.window.txtIn()->text(), QStringLiteral("($HFF)"));
-    EXPECT_EQ(h.clipboard.Text, u"$HFF");
-}
-
 TEST(MainWindow, ExpressionListSwitchShrinksTheWindowAndBringsTheRowsBack) {
     MainWindowHarness h;
     TypeAndEnter(h.window.txtIn(), QStringLiteral("1+2"));
@@ -149,17 +147,6 @@ TEST(MainWindow, ExpressionListSwitchShrinksTheWindowAndBringsTheRowsBack) {
     QTest::mouseClick(listSwitch, Qt::LeftButton);
     EXPECT_EQ(h.window.height(), fullHeight);
     EXPECT_EQ(h.window.ExpressionRows()->rowCount(), 1);
-}
-
-TEST(MainWindow, ClearingTheListAsksAndRemovesTheRows) {
-    MainWindowHarness h;
-    QAbstractItemModelTester tester(h.window.ExpressionRows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
-    TypeAndEnter(h.window.txtIn(), QStringLiteral("1+2"));
-    h.box.ExpectQuestion(u"Really clear the expression list?", u"Information", MessageAnswer::Yes);
-    QTest::mouseClick(FindByAccessibleName<QToolButton>(h.window, QStringLiteral("Clear the Expression List")),
-                      Qt::LeftButton);
-    EXPECT_EQ(h.window.ExpressionRows()->rowCount(), 0);
-    EXPECT_EQ(h.window.txtLEDResult()->text(), QStringLiteral("0"));
 }
 
 TEST(MainWindow, FrameCloseHidesToTheTrayOrMinimisesWithoutOne) {

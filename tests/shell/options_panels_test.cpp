@@ -1,5 +1,6 @@
-// Options, panels, the window's load, help, the Information menu and the
-// main pop-up menu.
+// Options, panels, the window's load, the menus, help, the Information menu
+// and the Quick Reference pair.
+#include "shell/catalogue.h"
 #include "shell/panel_layout.h"
 #include "shell_fakes.h"
 #include "table_file.h"
@@ -118,6 +119,37 @@ TEST_F(OptionsSession, LinksGoToTheMakersAddresses) {
                                  u"mailto:support@example.org?subject=Tessarondel Bug Report",
                                  u"mailto:mail@example.org?subject=Suggest a feature for Tessarondel",
                                  u"http://www.example.org/tq/index.htm", u"http://www.example.org/tq/index.htm"}));
+}
+
+TEST_F(OptionsSession, MenusHaveTheirCaptions) {
+    const CatalogueMenus& menus = main.Menus();
+    EXPECT_EQ(U8(menus.FunctionGroups[3].Caption), "Other");
+    EXPECT_EQ(U8(menus.ConstantGroups[5].Caption), "Custom");
+    EXPECT_EQ(U8(menus.ClearOther[4].Caption), "Clear All");
+    EXPECT_EQ(U8(menus.Information[7].Caption), "Check New");
+    EXPECT_EQ(U8(menus.Main[0].Caption), "Show/Hide Tessarondel");
+    EXPECT_EQ(U8(menus.Main[8].Caption), "Exit");
+}
+
+TEST_F(OptionsSession, ConfigureShowsThePlaceholderBox) {
+    box.ExpectNotice(u"fdsl", u"Tessarondel", MessageIcon::None);
+    main.ChooseConstant(kCustomConstantGroup, 0);
+    EXPECT_EQ(InputText(), "");
+}
+
+TEST_F(OptionsSession, QuickReferencePairSwapsAndResizesTheInputPanel) {
+    EXPECT_TRUE(main.QuickRefShown());
+    EXPECT_TRUE(main.QuickReferenceButtonVisible(0));
+    const std::int32_t shownHeight = main.Layout().WindowHeight;
+    main.ClickQuickReferenceButton(0);
+    EXPECT_FALSE(main.QuickRefShown());
+    EXPECT_TRUE(main.QuickReferenceButtonVisible(1));
+    EXPECT_FALSE(main.QuickReferenceButtonVisible(0));
+    EXPECT_EQ(main.Layout().InputPanel.Height, 2528);
+    EXPECT_EQ(main.Layout().WindowHeight, shownHeight - (3360 - 2528));
+    main.ClickQuickReferenceButton(1);
+    EXPECT_EQ(main.Layout().InputPanel.Height, 3360);
+    EXPECT_EQ(main.Layout().WindowHeight, shownHeight);
 }
 
 }  // namespace
