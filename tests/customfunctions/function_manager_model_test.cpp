@@ -4,9 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <functional>
+#include <map>
+
 #include "engine/engine.h"
 #include "engine/text_codec.h"
 #include "memory_document_store.h"
+#include "table_file.h"
 
 namespace tessarondel {
 namespace {
@@ -39,12 +44,7 @@ const CustomFunctionDocument kHyp{u"Hyp", u"a, b", u"s=a^2+b^2 ' squares\r\nsqrt
                                   u"Length of the hypotenuse\r\n"};
 const CustomFunctionDocument kDouble{u"twice", u"n", u"2*n\r\n", u"Two times\r\nthe number\r\n"};
 
-const std::string kSaveFault = "Some errors occurred when Saving the Custom Function! | Error Information";
-const std::string kRemoveFault = "Some errors occurred when removing the Custom Function! | Error Information";
 const std::string kDiscardQuestion = "Really don't save the changed information? | Information";
-std::string DeleteQuestion(const char* name) {
-    return std::string("Really removing the selected custom function: ") + name + " ? | Information";
-}
 
 class FunctionManager : public ::testing::Test {
 public:
@@ -59,13 +59,6 @@ public:
         manager.Load();
     }
     void Type(FunctionField field, std::u16string text) { manager.SetFieldText(field, std::move(text)); }
-    void TypeNew(const CustomFunctionDocument& document) {
-        manager.cmdNew();
-        Type(FunctionField::Name, document.Name);
-        Type(FunctionField::Parameters, document.ParameterText);
-        Type(FunctionField::Expression, document.Expression);
-        Type(FunctionField::Description, document.Description);
-    }
     std::string Evaluate(std::u16string_view text) { return U8(EvaluateText(engine, text)); }
     std::string Field(FunctionField field) const { return U8(manager.FieldText(field)); }
 
@@ -116,201 +109,117 @@ TEST_F(FunctionManager, LocksAndButtonsFollowTheStateAndCancelAsksFirst) {
     EXPECT_EQ(host.questions, std::vector<std::string>(3, kDiscardQuestion));
 }
 
-// --- Load and list ---------------------------------------------------------------
+// --- Sessions: tests/data/customfunctions/manager-sessions.tsv -------------------------
 
-TEST_F(FunctionManager, WithoutDocumentsEditAndDeleteAreOffAndInsertDoesNothing) {
-    Load({});
-    EXPECT_TRUE(manager.Rows().empty());
-    EXPECT_FALSE(manager.ButtonEnabled(ManagerButton::Edit));
-    EXPECT_FALSE(manager.ButtonEnabled(ManagerButton::Delete));
-    manager.cmdInsert();
-    manager.DoubleClickList();
-    manager.cmdEdit();
-    EXPECT_TRUE(host.inserted.empty());
-    EXPECT_EQ(manager.State(), ManagerState::List);
-    EXPECT_EQ(manager.FunctionMenu().size(), 2u);
+using testing_table::Row;
+using testing_table::Split;
+
+std::string Joined(const std::vector<std::string>& parts) {
+    std::string joined;
+    for (const std::string& part : parts) joined += (joined.empty() ? "" : " + ") + part;
+    return joined;
+}
+std::string YesNo(bool value) { return value ? "yes" : "no"; }
+FunctionField FieldNamed(const std::string& name) {
+    const std::map<std::string, FunctionField> fields = {{"Name", FunctionField::Name},
+                                                         {"Parameters", FunctionField::Parameters},
+                                                         {"Expression", FunctionField::Expression},
+                                                         {"Description", FunctionField::Description}};
+    return fields.at(name);
+}
+ManagerButton ButtonNamed(const std::string& name) {
+    return name == "Edit" ? ManagerButton::Edit : name == "Delete" ? ManagerButton::Delete : ManagerButton::New;
 }
 
-TEST_F(FunctionManager, LoadDefinesEveryDocumentAndListsIt) {
-    Load({kHyp, kDouble});
-    EXPECT_EQ(Evaluate(u"hyp(3,4)"), "5");
-    EXPECT_EQ(Evaluate(u"twice(21)"), "42");
-    ASSERT_EQ(manager.Rows().size(), 2u);
-    EXPECT_EQ(U8(manager.Rows()[0].Name), "Hyp");
-    EXPECT_EQ(U8(manager.Rows()[1].Description), "Two times    the number    ");
-    ASSERT_EQ(manager.FunctionMenu().size(), 4u);
-    EXPECT_EQ(U8(manager.FunctionMenu()[0].Caption), "Add New...");
-    EXPECT_EQ(U8(manager.FunctionMenu()[1].Caption), "-");
-    EXPECT_EQ(U8(manager.FunctionMenu()[2].Tag), "Function:Hyp(a, b)\r\nDescription:Length of the hypotenuse\r\n");
-    EXPECT_EQ(manager.FunctionCount(), 2);
-}
-
-TEST_F(FunctionManager, AFolderThatCannotBeReadDefinesNothing) {
-    store.loaded.failed = true;
-    Load({kHyp});
-    EXPECT_EQ(host.notices,
-              (std::vector<std::string>{"Some errors occurred when Loading the Custom Function! | Error Information"}));
-    EXPECT_TRUE(manager.Rows().empty());
-    EXPECT_EQ(manager.FunctionCount(), 0);
-}
-
-TEST_F(FunctionManager, ClickingARowFillsTheBoxesButNotWhileEditing) {
-    Load({kHyp, kDouble});
-    manager.SelectRow(2);
-    manager.ClickList();
-    EXPECT_EQ(Field(FunctionField::Name), "twice");
-    EXPECT_EQ(Field(FunctionField::Expression), "2*n\r\n");
-    manager.cmdEdit();
-    manager.SelectRow(1);
-    manager.ClickList();
-    EXPECT_EQ(Field(FunctionField::Name), "twice");
-}
-
-TEST_F(FunctionManager, DetailsSnapToTwoHeights) {
-    Load({});
-    EXPECT_EQ(manager.Height(), 2565);
-    EXPECT_TRUE(manager.DetailsButtonVisible(1));
-    manager.Resize(3000);
-    EXPECT_EQ(manager.Height(), 5505);
-    EXPECT_TRUE(manager.DetailsButtonVisible(0));
-    EXPECT_FALSE(manager.DetailsButtonVisible(1));
-    manager.Resize(2565);
-    EXPECT_EQ(manager.Height(), 2565);
-    manager.cmdNew();
-    EXPECT_EQ(manager.Height(), 5505);
-    manager.FitHeights(3000, 5000);  // contents that need more than the collapsed height
-    manager.Resize(2990);
-    EXPECT_EQ(manager.Height(), 3000);
-    manager.Resize(3001);
-    EXPECT_EQ(manager.Height(), 5505);
-}
-
-// --- Saving a new function -------------------------------------------------------
-
-TEST_F(FunctionManager, SavingANewFunctionWritesListsAndDefinesIt) {
-    Load({kHyp});
-    TypeNew({u"  Area ", u"w,h", u" w*h ", u" rectangle "});
-    manager.cmdOK();
-    EXPECT_EQ(manager.State(), ManagerState::List);
-    ASSERT_EQ(store.written.count(u"Area"), 1u);
-    EXPECT_EQ(U8(store.written[u"Area"].Expression), "w*h");
-    EXPECT_EQ(U8(store.written[u"Area"].Description), "rectangle");
-    EXPECT_EQ(U8(manager.Rows().back().Name), "Area");
-    EXPECT_EQ(U8(manager.FunctionMenu().back().Caption), "Area");
-    EXPECT_EQ(Evaluate(u"area(3,4)"), "12");
-    EXPECT_FALSE(engine.ShowErrorBox);
-    EXPECT_TRUE(engineBoxes.empty());
-}
-
-// The window's own check comes first, then the engine's with its box shown
-// for the save; neither writes anything and the state stays New.
-TEST_F(FunctionManager, ASaveRefusedByTheWindowOrTheEngineChangesNothing) {
-    Load({kHyp});
-    for (const CustomFunctionDocument& typed :
-         {CustomFunctionDocument{u"f", u"", u"   ", u""}, CustomFunctionDocument{u"", u"", u"1", u""},
-          CustomFunctionDocument{u"hyp", u"x", u"x", u""}}) {
-        TypeNew(typed);
-        manager.cmdOK();
-        EXPECT_EQ(manager.State(), ManagerState::New);
+class ManagerSession : public FunctionManager, public ::testing::WithParamInterface<Row> {
+protected:
+    // One command: a verb, a blank and its argument.
+    void Run(const std::string& step) {
+        const std::size_t blank = step.find(' ');
+        const std::string verb = step.substr(0, blank), text = blank == std::string::npos ? "" : step.substr(blank + 1);
+        const auto number = [&](std::size_t part = 0) { return std::stoi(Split(text, " ").at(part)); };
+        const std::map<std::string, std::function<void()>> verbs = {
+            {"load",
+             [&] {
+                 std::vector<CustomFunctionDocument> documents;
+                 for (const std::string& name : Split(text, " ")) documents.push_back(name == "Hyp" ? kHyp : kDouble);
+                 Load(documents);
+             }},
+            {"unreadable", [&] { store.loaded.failed = true; }},
+            {"failwrites", [&] { store.failWrites = true; }},
+            {"faildeletes", [&] { store.failDeletes = true; }},
+            {"answer", [&] { host.answer = text == "yes"; }},
+            {"forget", [&] { engine.CustomFunctionTable.Deallocate(), engine.CustomFunctionNames.clear(); }},
+            {"new", [&] { manager.cmdNew(); }},
+            {"edit", [&] { manager.cmdEdit(); }},
+            {"ok", [&] { manager.cmdOK(); }},
+            {"delete", [&] { manager.cmdDelete(); }},
+            {"insert", [&] { manager.cmdInsert(); }},
+            {"doubleclick", [&] { manager.DoubleClickList(); }},
+            {"select", [&] { manager.SelectRow(number()); }},
+            {"click", [&] { manager.ClickList(); }},
+            {"resize", [&] { manager.Resize(number()); }},
+            {"fit", [&] { manager.FitHeights(number(), number(1)); }},
+            {"type",
+             [&] { Type(FieldNamed(text.substr(0, text.find(' '))), ToUtf16(text.substr(text.find(' ') + 1))); }},
+        };
+        verbs.at(verb)();
     }
-    EXPECT_EQ(host.notices,
-              std::vector<std::string>(2, "The Function Name and the Expression List can not be empty! | Information"));
-    EXPECT_EQ(engineBoxes, (std::vector<std::string>{"ErrNum:9\r\nErrInformation:Redefine the custom functions!"}));
-    EXPECT_EQ(engine.ErrorNumber, 9);
-    EXPECT_EQ(Field(FunctionField::Name), "hyp");
-    EXPECT_TRUE(store.written.empty());
-    EXPECT_EQ(manager.Rows().size(), 1u);
-    EXPECT_FALSE(engine.ShowErrorBox);
+
+    // What the manager shows under one name; a name may take an argument after a blank.
+    std::string Shown(const std::string& probe) {
+        const std::size_t blank = probe.find(' ');
+        const std::string name = probe.substr(0, blank),
+                          argument = blank == std::string::npos ? "" : probe.substr(blank + 1);
+        std::vector<std::string> rows, descriptions, menu, inserted, deleted;
+        for (const FunctionListRow& row : manager.Rows())
+            rows.push_back(U8(row.Name)), descriptions.push_back(U8(row.Description));
+        for (const auto& item : manager.FunctionMenu()) menu.push_back(U8(item.Caption));
+        for (const auto& text : host.inserted) inserted.push_back(U8(text));
+        for (const auto& text : store.deleted) deleted.push_back(U8(text));
+        const std::map<std::string, std::function<std::string()>> shown = {
+            {"state",
+             [&] {
+                 return std::string(std::array{"List", "New", "Edit"}[int(manager.State())]);
+             }},
+            {"rows", [&] { return Joined(rows); }},
+            {"description", [&] { return descriptions.at(std::stoul(argument)); }},
+            {"menu", [&] { return Joined(menu); }},
+            {"menutag", [&] { return U8(manager.FunctionMenu().at(std::stoul(argument)).Tag); }},
+            {"document", [&] { return U8(manager.Documents().at(std::stoul(argument)).Name); }},
+            {"count", [&] { return std::to_string(manager.FunctionCount()); }},
+            {"evaluate", [&] { return Evaluate(ToUtf16(argument)); }},
+            {"field", [&] { return Field(FieldNamed(argument)); }},
+            {"enabled", [&] { return YesNo(manager.ButtonEnabled(ButtonNamed(argument))); }},
+            {"written", [&] { return U8(store.written[ToUtf16(argument)].Expression); }},
+            {"writtendescription", [&] { return U8(store.written[ToUtf16(argument)].Description); }},
+            {"writes", [&] { return std::to_string(store.written.size()); }},
+            {"deleted", [&] { return Joined(deleted); }},
+            {"inserted", [&] { return Joined(inserted); }},
+            {"notices", [&] { return Joined(host.notices); }},
+            {"questions", [&] { return Joined(host.questions); }},
+            {"engineboxes", [&] { return Joined(engineBoxes); }},
+            {"errornumber", [&] { return std::to_string(engine.ErrorNumber); }},
+            {"errorbox", [&] { return YesNo(engine.ShowErrorBox); }},
+            {"height", [&] { return std::to_string(manager.Height()); }},
+            {"detailsbutton", [&] { return YesNo(manager.DetailsButtonVisible(std::stoi(argument))); }},
+        };
+        return shown.at(name)();
+    }
+};
+
+TEST_P(ManagerSession, ShowsWhatTheCommandsLeave) {
+    const Row& row = GetParam();
+    for (const std::string& step : Split(row[1])) Run(step);
+    for (const std::string& expected : Split(row[2])) {
+        const std::size_t equals = expected.find('=');
+        EXPECT_EQ(Shown(expected.substr(0, equals)), expected.substr(equals + 1)) << expected.substr(0, equals);
+    }
 }
 
-TEST_F(FunctionManager, AFileThatCannotBeWrittenKeepsTheFunctionButStaysInNew) {
-    Load({});
-    store.failWrites = true;
-    TypeNew({u"square", u"x", u"x*x", u""});
-    manager.cmdOK();
-    EXPECT_EQ(host.notices, (std::vector<std::string>{kSaveFault}));
-    EXPECT_EQ(manager.State(), ManagerState::New);
-    EXPECT_EQ(manager.Rows().size(), 1u);
-    EXPECT_EQ(Evaluate(u"square(5)"), "25");
-    EXPECT_FALSE(engine.ShowErrorBox);
-    EXPECT_TRUE(engineBoxes.empty());
-}
-
-// --- Saving an edited function -----------------------------------------------------
-
-TEST_F(FunctionManager, SavingAnEditJoinsTheBodyAndUpdatesRowFileAndMenu) {
-    Load({kHyp, kDouble});
-    manager.SelectRow(2);
-    manager.cmdEdit();
-    Type(FunctionField::Expression, u"m=3*n ' three\r\nm\r\n");
-    Type(FunctionField::Description, u"Three times\r\n");
-    manager.cmdOK();
-    EXPECT_EQ(manager.State(), ManagerState::List);
-    EXPECT_EQ(Evaluate(u"twice(2)"), "6");
-    EXPECT_EQ(U8(store.written[u"twice"].Expression), "m=3*n ' three\r\nm\r\n");
-    EXPECT_EQ(U8(manager.Rows()[1].Description), "Three times    ");
-    EXPECT_EQ(U8(manager.FunctionMenu()[3].Tag), "Function:twice(n)\r\nDescription:Three times\r\n");
-    EXPECT_FALSE(engine.ShowErrorBox);
-}
-
-TEST_F(FunctionManager, AnEditOfNothingButNotesFailsAndWritesNothing) {
-    Load({kHyp});
-    manager.cmdEdit();
-    Type(FunctionField::Expression, u"' only a note");
-    manager.cmdOK();
-    EXPECT_EQ(host.notices, (std::vector<std::string>{kSaveFault}));
-    EXPECT_EQ(manager.State(), ManagerState::Edit);
-    EXPECT_TRUE(store.written.empty());
-    EXPECT_TRUE(engine.ShowErrorBox);  // stays on after a fault
-    EXPECT_EQ(Evaluate(u"hyp(3,4)"), "5");
-}
-
-// --- Deleting ------------------------------------------------------------------------
-
-TEST_F(FunctionManager, DeleteAsksAndTheLastOneEmptiesTheBoxesAndDisablesEditAndDelete) {
-    Load({kHyp, kDouble});
-    host.answer = false;
-    manager.cmdDelete();
-    EXPECT_EQ(manager.Rows().size(), 2u);
-    EXPECT_EQ(Evaluate(u"hyp(3,4)"), "5");
-
-    host.answer = true;
-    manager.cmdDelete();
-    EXPECT_EQ(store.deleted, (std::vector<std::u16string>{u"Hyp"}));
-    ASSERT_EQ(manager.Rows().size(), 1u);
-    EXPECT_EQ(U8(manager.Documents()[1].Name), "twice");
-    EXPECT_EQ(manager.FunctionMenu().size(), 3u);
-    EXPECT_EQ(Field(FunctionField::Name), "twice");
-    EXPECT_NE(Evaluate(u"hyp(3,4)"), "5");
-
-    manager.cmdDelete();
-    EXPECT_EQ(host.questions,
-              (std::vector<std::string>{DeleteQuestion("Hyp"), DeleteQuestion("Hyp"), DeleteQuestion("twice")}));
-    EXPECT_TRUE(manager.Rows().empty());
-    EXPECT_EQ(Field(FunctionField::Name), "");
-    EXPECT_FALSE(manager.ButtonEnabled(ManagerButton::Edit));
-    EXPECT_FALSE(manager.ButtonEnabled(ManagerButton::Delete));
-}
-
-TEST_F(FunctionManager, AFileThatCannotBeDeletedIsReportedAfterTheFunctionLeft) {
-    Load({kHyp});
-    store.failDeletes = true;
-    manager.cmdDelete();
-    EXPECT_EQ(host.notices, (std::vector<std::string>{kRemoveFault}));
-    EXPECT_TRUE(manager.Rows().empty());
-    EXPECT_EQ(manager.FunctionCount(), 0);
-}
-
-// The engine goes first: a function it can't drop keeps its row and file.
-TEST_F(FunctionManager, ARowTheEngineNeverHeldCannotBeDeleted) {
-    Load({kHyp});
-    engine.CustomFunctionTable.Deallocate();
-    engine.CustomFunctionNames.clear();
-    manager.cmdDelete();
-    EXPECT_EQ(host.notices, (std::vector<std::string>{kRemoveFault}));
-    EXPECT_EQ(manager.Rows().size(), 1u);
-    EXPECT_TRUE(store.deleted.empty());
-}
+INSTANTIATE_TEST_SUITE_P(Rows, ManagerSession,
+                         ::testing::ValuesIn(testing_table::ReadTable("customfunctions/manager-sessions.tsv")),
+                         testing_table::RowName);
 
 }  // namespace
 }  // namespace tessarondel
