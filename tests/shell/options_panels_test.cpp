@@ -71,25 +71,6 @@ TEST_F(OptionsSession, StoredStateIsRestoredAndWrittenBack) {
     }
 }
 
-TEST_F(OptionsSession, SideWindowsFollowTheirBoxesAndTheMainMenuChecks) {
-    main.ChooseMainMenu(2);
-    EXPECT_TRUE(main.VariableWindowVisible());
-    EXPECT_TRUE(main.Menus().Main[2].Checked);
-    main.Variables().cmdBtn(2);
-    EXPECT_FALSE(main.VariableWindowVisible());
-    EXPECT_FALSE(main.Menus().Main[2].Checked);
-    main.ClickCustomFunctions();
-    EXPECT_TRUE(main.FunctionManagerVisible());
-    EXPECT_TRUE(main.Menus().Main[3].Checked);
-}
-
-TEST_F(OptionsSession, TheToggleAndTheFrameCloseFlipTheShownState) {
-    main.CloseByFrame();
-    EXPECT_EQ(main.WindowShownState(), 0);
-    main.ChooseMainMenu(0);
-    EXPECT_EQ(main.WindowShownState(), 1);
-}
-
 TEST_F(OptionsSession, MenuCommandsThatOpenOtherWindowsAreAnnounced) {
     main.ChooseMainMenu(5);
     main.ChooseInformation(9);
@@ -108,17 +89,6 @@ TEST_F(OptionsSession, MissingReadmeAndChangesAreReported) {
                      u"Information");
     main.ChooseInformation(1);
     EXPECT_TRUE(opener.Opened.empty());
-}
-
-TEST_F(OptionsSession, LinksGoToTheMakersAddresses) {
-    main.ChooseInformation(3);
-    main.ChooseInformation(4);
-    main.ChooseInformation(6);
-    main.ClickLogo();
-    EXPECT_EQ(opener.Opened, (std::vector<std::u16string>{
-                                 u"mailto:support@example.org?subject=Tessarondel Bug Report",
-                                 u"mailto:mail@example.org?subject=Suggest a feature for Tessarondel",
-                                 u"http://www.example.org/tq/index.htm", u"http://www.example.org/tq/index.htm"}));
 }
 
 TEST_F(OptionsSession, MenusHaveTheirCaptions) {

@@ -49,6 +49,12 @@ protected:
             {"constant", [&] { main.ChooseConstant(Number(text), Number(text, 1)); }},
             {"paste", [&] { clipboard.Text = U16(text), main.PasteFromClipboard(); }},
             {"copy", [&] { main.CopyResultToClipboard(); }},
+            {"mainmenu", [&] { main.ChooseMainMenu(Number(text)); }},
+            {"information", [&] { main.ChooseInformation(Number(text)); }},
+            {"logo", [&] { main.ClickLogo(); }},
+            {"frameclose", [&] { main.CloseByFrame(); }},
+            {"variablebutton", [&] { main.Variables().cmdBtn(Number(text)); }},
+            {"customfunctions", [&] { main.ClickCustomFunctions(); }},
             {"notice", [&] { box.ExpectNotice(U16(Split(text, "|").at(0)), U16(Split(text, "|").at(1))); }},
         };
         if (const auto answer = Answers().find(verb); answer != Answers().end()) {
@@ -63,8 +69,13 @@ protected:
         return answers;
     }
 
-    // What the window shows under one name.
-    std::string Shown(const std::string& name) {
+    // What the window shows under one name; a name may take a number after a blank.
+    std::string Shown(const std::string& probe) {
+        const std::size_t blank = probe.find(' ');
+        const std::string name = probe.substr(0, blank);
+        const int argument = blank == std::string::npos ? 0 : Number(probe.substr(blank + 1));
+        std::string opened;
+        for (const std::u16string& link : opener.Opened) opened += (opened.empty() ? "" : " | ") + U8(link);
         const auto& rows = main.Expressions().Rows();
         const auto& items = main.Results().Items();
         const auto& variables = main.Variables().Rows();
@@ -102,6 +113,11 @@ protected:
             {"lastvariable", [&] { return U8(variables.back().Name + u"=" + variables.back().Value); }},
             {"hasvariables", [&] { return YesNo(main.HasVariables()); }},
             {"names", [&] { return U8(engine.VariableNames); }},
+            {"shown", [&] { return std::to_string(main.WindowShownState()); }},
+            {"variablewindow", [&] { return YesNo(main.VariableWindowVisible()); }},
+            {"functionmanager", [&] { return YesNo(main.FunctionManagerVisible()); }},
+            {"checked", [&] { return YesNo(main.Menus().Main.at(std::size_t(argument)).Checked); }},
+            {"opened", [&] { return opened; }},
             {"clearall", [&] { return YesNo(main.ClearAllActive()); }},
         };
         return shown.at(name)();
