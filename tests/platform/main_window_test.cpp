@@ -21,8 +21,8 @@ namespace {
 using testing::FindByAccessibleName;
 using testing::MainWindowHarness;
 
-QToolButton* ButtonWithText(QWidget& root, const QString& text) {
-    for (auto* button : root.findChildren<QToolButton*>()) {
+QAbstractButton* ButtonWithText(QWidget& root, const QString& text) {
+    for (auto* button : root.findChildren<QAbstractButton*>()) {
         if (button->text() == text) return button;
     }
     return nullptr;
@@ -39,8 +39,9 @@ TEST(MainWindow, EnterEvaluatesIntoDisplayAndAppendsARow) {
     TypeAndEnter(h.window.txtIn(), QStringLiteral("2*(3+4)^2"));
     EXPECT_EQ(h.window.txtLEDResult()->text(), QStringLiteral("98"));
     EXPECT_TRUE(h.window.txtIn()->text().isEmpty());
+    QTest::mouseClick(ButtonWithText(h.window, QStringLiteral("HEXadecimal")), Qt::LeftButton);
     QTest::mouseDClick(h.window.txtLEDResult(), Qt::LeftButton);
-    EXPECT_EQ(h.window.txtIn()->text(), QStringLiteral("(98)"));
+    EXPECT_EQ(h.window.txtIn()->text(), QStringLiteral("($H62)"));
     h.window.txtIn()->clear();
     TypeAndEnter(h.window.txtIn(), QStringLiteral(" 1/0 "));
     QAbstractItemModel* rows = h.window.ExpressionRows();
@@ -51,6 +52,10 @@ TEST(MainWindow, EnterEvaluatesIntoDisplayAndAppendsARow) {
     EXPECT_EQ(rows->index(1, 1).data().toString(), QStringLiteral("1/0"));
     EXPECT_TRUE(rows->index(1, 2).data().toString().startsWith(QStringLiteral("Error:")));
     EXPECT_EQ(rows->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Result"));
+    h.box.ExpectQuestion(u"Really clear the expression list?", u"Information", MessageAnswer::Yes);
+    QTest::mouseClick(FindByAccessibleName<QToolButton>(h.window, QStringLiteral("Clear the Expression List")),
+                      Qt::LeftButton);
+    EXPECT_EQ(rows->rowCount(), 0);
 }
 
 // The Input Area shows the model's selection, down to a single character.
@@ -99,7 +104,7 @@ TEST(MainWindow, KeypadReplacesTheSelectionAndKeepsTheInputFocused) {
     QLineEdit* input = h.window.txtIn();
     QTest::keyClicks(input, QStringLiteral("12"));
     input->selectAll();
-    QToolButton* sin = ButtonWithText(h.window, QStringLiteral("sin"));
+    QAbstractButton* sin = ButtonWithText(h.window, QStringLiteral("sin"));
     ASSERT_NE(sin, nullptr);
     QTest::mouseClick(sin, Qt::LeftButton);
     EXPECT_EQ(input->text(), QStringLiteral("sin()"));
@@ -117,7 +122,7 @@ TEST(MainWindow, KeypadCaptionsUseTheClassicColours) {
     } rows[] = {{"7", 0x800000}, {"+", 0x000080}, {"mod", 0x000080}, {"(", 0x800080}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.caption);
-        QToolButton* button = ButtonWithText(h.window, QString::fromLatin1(row.caption));
+        QAbstractButton* button = ButtonWithText(h.window, QString::fromLatin1(row.caption));
         ASSERT_NE(button, nullptr);
         EXPECT_EQ(button->palette().color(QPalette::ButtonText).rgb() & 0xFFFFFF, row.colour);
     }
