@@ -135,7 +135,6 @@ public:
 
     bool HasVariables() const { return hasVariables_; }
     double LastValue() const { return lastValue_; }
-    const std::u16string& ResultText() const { return resultText_; }
     bool ClearAllActive() const override { return clearAllActive_; }
     bool QuickRefShown() const { return quickRefShown_; }
     // cmdLedBtn(index) visibility; one of the two at a time.
