@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QTextBrowser>
@@ -83,7 +84,11 @@ QWidget* HelpWindow::BuildFindBar() {
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), findBar_);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, &HelpWindow::CloseFindBar);
+    notFound_ = new QLabel(tr("Not found"), findBar_);
+    notFound_->hide();
+    connect(findText_, &QLineEdit::textChanged, notFound_, &QWidget::hide);
     layout->addWidget(findText_, 1);
+    layout->addWidget(notFound_);
     for (QToolButton* button : {next, previous, close}) layout->addWidget(button);
     findBar_->hide();
     return findBar_;
@@ -123,7 +128,8 @@ void HelpWindow::Find(bool backward) {
     QTextCursor wrapped = page_->textCursor();
     wrapped.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
     page_->setTextCursor(wrapped);
-    page_->find(text, flags);
+    // Without this the bar looks the same whether the text is there or not.
+    notFound_->setVisible(!page_->find(text, flags));
 }
 
 }  // namespace tessarondel

@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <filesystem>
 
+class QLabel;
 class QLineEdit;
 class QTextBrowser;
 class QToolButton;
@@ -36,6 +37,7 @@ private:
     QTextBrowser* page_ = nullptr;
     QWidget* findBar_ = nullptr;
     QLineEdit* findText_ = nullptr;
+    QLabel* notFound_ = nullptr;
 };
 
 }  // namespace tessarondel

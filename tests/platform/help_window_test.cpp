@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <QTextBrowser>
@@ -53,6 +54,10 @@ TEST(HelpWindow, F1WithoutHelpChmShowsTheManualWithHistoryAndFind) {
     QTest::keyClicks(help->FindText(), QStringLiteral("Keys"));
     QTest::keyClick(help->FindText(), Qt::Key_Return);
     EXPECT_EQ(help->Page()->textCursor().selectedText(), QStringLiteral("Keys"));
+    EXPECT_FALSE(help->findChild<QLabel*>()->isVisible());
+    QTest::keyClicks(help->FindText(), QStringLiteral("zz"));  // "Keyszz" is nowhere
+    QTest::keyClick(help->FindText(), Qt::Key_Return);
+    EXPECT_TRUE(help->findChild<QLabel*>()->isVisible());
     QTest::keyClick(help->FindText(), Qt::Key_Escape);
     EXPECT_FALSE(help->FindText()->isVisible());
     help->close();
