@@ -48,8 +48,9 @@ bool WriteFunctionDocument(const std::filesystem::path& folder, const CustomFunc
 // Removes <folder>/<name>.cfd; false when it doesn't exist or can't be removed.
 bool DeleteFunctionDocument(const std::filesystem::path& folder, std::u16string_view name);
 
-// "Custom Function" beside the executable, created if missing; when that can't
-// be created or written, "Custom Function" under the user's data directory.
+// "Custom Function" beside the executable, created if missing in a portable
+// layout; otherwise, or when it can't be written, "Custom Function" under the
+// user's data directory.
 std::filesystem::path ResolveFunctionFolder();
 
 // The same folder, without creating it.

@@ -61,8 +61,9 @@ std::filesystem::path FindFunctionFolder(const std::string& programDirectory, co
     return FixPath(dataHome + "/Tessarondel/Custom Function");
 }
 
-std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, const std::string& dataHome) {
-    MakePath(FixPath(programDirectory + "/Custom Function"));
+std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, const std::string& dataHome,
+                                           ProgramLayout layout) {
+    if (layout == ProgramLayout::Portable) MakePath(FixPath(programDirectory + "/Custom Function"));
     const std::filesystem::path folder = FindFunctionFolder(programDirectory, dataHome);
     MakePath(folder.string());
     return folder;
@@ -83,7 +84,10 @@ std::string UserDataHome() { return XdgHome("XDG_DATA_HOME", "/.local/share"); }
 
 std::string UserStateHome() { return XdgHome("XDG_STATE_HOME", "/.local/state"); }
 
-std::filesystem::path ResolveFunctionFolder() { return ChooseFunctionFolder(ProgramDirectory(), UserDataHome()); }
+std::filesystem::path ResolveFunctionFolder() {
+    constexpr ProgramLayout layout = TESSARONDEL_PORTABLE_LAYOUT ? ProgramLayout::Portable : ProgramLayout::Installed;
+    return ChooseFunctionFolder(ProgramDirectory(), UserDataHome(), layout);
+}
 
 std::filesystem::path FindFunctionFolder() { return FindFunctionFolder(ProgramDirectory(), UserDataHome()); }
 

@@ -17,10 +17,16 @@ std::string FixPath(std::string_view path);
 // directory without a separator, as the program has always done.
 void MakePath(std::string_view path);
 
-// "Custom Function" in `programDirectory`, created if missing, when it is a
-// writable directory; otherwise "Tessarondel/Custom Function" under `dataHome`
-// (a system-wide install can't write beside the program).
-std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, const std::string& dataHome);
+// Whether the program lives in a folder of its own, or in a bin/ shared with
+// other programs.
+enum class ProgramLayout { Portable, Installed };
+
+// "Custom Function" in `programDirectory` when it is a writable directory;
+// otherwise "Tessarondel/Custom Function" under `dataHome`. A portable program
+// creates the folder beside itself when it is missing; an installed one never
+// does, as bin/ is no place for data even when it is writable, as for root.
+std::filesystem::path ChooseFunctionFolder(const std::string& programDirectory, const std::string& dataHome,
+                                           ProgramLayout layout);
 
 // The folder that ChooseFunctionFolder settles on, found without creating
 // anything, for a reader such as the command-line program: run by root from

@@ -129,14 +129,26 @@ TEST(ChooseFunctionFolder, UsesTheFolderBesideTheProgramOrFallsBackToTheUserData
               data.Path() / "Tessarondel" / "Custom Function");
     EXPECT_TRUE(fs::is_empty(program.Path()));
     EXPECT_TRUE(fs::is_empty(data.Path()));
-    EXPECT_EQ(ChooseFunctionFolder(program.Path().string(), data.Path().string()), program.Path() / "Custom Function");
+    EXPECT_EQ(ChooseFunctionFolder(program.Path().string(), data.Path().string(), ProgramLayout::Portable),
+              program.Path() / "Custom Function");
     EXPECT_TRUE(fs::is_directory(program.Path() / "Custom Function"));
     EXPECT_TRUE(fs::is_empty(data.Path()));
     EXPECT_EQ(FindFunctionFolder(program.Path().string(), data.Path().string()), program.Path() / "Custom Function");
     blocked.Write("Custom Function", "a file stands in the way");
-    const fs::path chosen = ChooseFunctionFolder(blocked.Path().string() + "/", data.Path().string());
+    const fs::path chosen =
+        ChooseFunctionFolder(blocked.Path().string() + "/", data.Path().string(), ProgramLayout::Portable);
     EXPECT_EQ(chosen, data.Path() / "Tessarondel" / "Custom Function");
     EXPECT_TRUE(fs::is_directory(chosen));
+}
+
+TEST(ChooseFunctionFolder, AnInstalledProgramCreatesNothingBesideItselfButUsesAFolderThatIsThere) {
+    TemporaryFolder bin, data;
+    EXPECT_EQ(ChooseFunctionFolder(bin.Path().string(), data.Path().string(), ProgramLayout::Installed),
+              data.Path() / "Tessarondel" / "Custom Function");
+    EXPECT_TRUE(fs::is_empty(bin.Path()));
+    fs::create_directory(bin.Path() / "Custom Function");
+    EXPECT_EQ(ChooseFunctionFolder(bin.Path().string(), data.Path().string(), ProgramLayout::Installed),
+              bin.Path() / "Custom Function");
 }
 
 }  // namespace
