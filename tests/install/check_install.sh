@@ -33,7 +33,7 @@ report=$(desktop-file-validate "$prefix/share/applications/$id.desktop" 2>&1) &&
   fail "desktop-file-validate: $report"
 report=$(appstreamcli validate --no-net "$prefix/share/metainfo/$id.metainfo.xml" 2>&1) &&
   ! grep -q '^[EW]:' <<<"$report" || fail "appstreamcli validate: $report"
-for page in "$prefix"/share/man/man1/*.1; do
+for page in "$prefix"/share/man/man1/*.1.gz; do
   report=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -l "$page" 2>&1 >/dev/null) && [ -z "$report" ] ||
     fail "man -l $page: $report"
 done
@@ -43,7 +43,7 @@ cli=$prefix/bin/tessarondel-cli
 newest=$(grep -o -m1 '<release version="[^"]*"' "$prefix/share/metainfo/$id.metainfo.xml" | cut -d'"' -f2)
 [[ $("$cli" --version) == "$newest "* ]] || fail "the newest release in the metainfo, $newest, is not the program's version"
 for option in $("$cli" --help | grep -o -- '--[a-z][a-z-]*' | sort -u); do
-  grep -q -- "${option//-/\\\\-}" "$prefix/share/man/man1/tessarondel-cli.1" || fail "tessarondel-cli(1) lacks $option"
+  zgrep -q -- "${option//-/\\\\-}" "$prefix/share/man/man1/tessarondel-cli.1.gz" || fail "tessarondel-cli(1) lacks $option"
   grep -qw -- "$option" "$prefix/share/bash-completion/completions/tessarondel-cli" || fail "the completion lacks $option"
 done
 exit $((failures > 0))
